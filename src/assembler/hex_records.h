@@ -1,0 +1,47 @@
+// Cutting bytes into Intel HEX records of up to sixteen bytes, and their checksums.
+#ifndef QUILLA_ASSEMBLER_HEX_RECORDS_H_
+#define QUILLA_ASSEMBLER_HEX_RECORDS_H_
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/text_list.h"
+
+namespace quilla {
+
+/// The bytes of a full record.
+inline constexpr int kRecordBytes = 16;
+
+/// The address and type of a data record. From 1000h up these are the six digits that Intel HEX
+/// asks for. Below, zeros are put in front until address and type together have four digits: up
+/// to FFh that ends with four, and from 100h to FFFh it never ends.
+std::string RecordHead(std::int64_t address);
+
+/// The checksum of a record that lacks it: 256 less the low byte of the sum of its bytes, at
+/// least two digits. A low byte of 0 gives the three digits "100". Fails with `kNotANumber` where
+/// the record holds anything but hexadecimal digits behind its colon.
+std::string Checksum(std::string_view record);
+
+/// Collects the bytes of one block after the other and adds a record to a list whenever one is
+/// full.
+class RecordWriter {
+ public:
+  explicit RecordWriter(TextList& records) : records_(records) {}
+
+  void BeginBlock(std::int64_t address);
+  /// Adds a byte, as its two digits.
+  void AddByte(std::string_view byte);
+  /// Adds the record of the bytes that are left over, if there are any.
+  void EndBlock();
+
+ private:
+  TextList& records_;
+  std::int64_t address_ = 0;
+  std::string line_;
+  int count_ = 0;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_ASSEMBLER_HEX_RECORDS_H_

@@ -1,0 +1,93 @@
+#include "entry/comment_tool.h"
+
+#include "entry/default_comment.h"
+
+namespace quilla {
+namespace {
+
+/// Characters that a comment must not end with while it is typed.
+bool IsBarred(char last) { return last == '&' || last == '"'; }
+
+}  // namespace
+
+CommentTool::CommentTool(Session& session, StateMachine& states)
+    : session_(session),
+      states_(states),
+      CommentsBox_(&session.ProgrammingPanel, "CommentsBox"),
+      CommentsHeading_(&CommentsBox_, "CommentsHeading", "Comments"),
+      CommentsTxt_(&CommentsBox_, "CommentsTxt"),
+      CommentNextButton_(&CommentsBox_, "CommentNextButton", "&Next"),
+      DefaultCommentButton_(&CommentsBox_, "DefaultCommentButton", "&Default Comment"),
+      CommentContinueButton_(&CommentsBox_, "CommentContinueButton", "&Continue in next line"),
+      CommentDoneButton_(&CommentsBox_, "CommentDoneButton", "Done"),
+      CommentCancelButton_(&CommentsBox_, "CommentCancelButton", "Ignore") {
+  CommentsTxt_.TextChange = [this] { CommentsTxt_Change(); };
+  CommentNextButton_.Click = [this] { CommentNextButton_Click(); };
+  DefaultCommentButton_.Click = [this] { DefaultCommentButton_Click(); };
+  CommentDoneButton_.Click = [this] { CommentDoneButton_Click(); };
+  CommentCancelButton_.Click = [this] { CommentCancelButton_Click(); };
+  CommentsBox_.Hide();
+  session_.menu.CommentsTool.Click = [this] { states_.ControlTransfer(PanelState::kComment); };
+  states_.SetStatus(BoxId::kComment, [this](bool status) { CommentStatus(status); });
+}
+
+void CommentTool::CommentStatus(bool status) {
+  CommentsBox_.set_visible(status);
+  if (!status) return;
+  const Grid& table = session_.Table1;
+  const int row = session_.ClickedRow;
+  CommentsTxt_.set_text(table.TextMatrix(row, kCommentColumn));
+  DefaultCommentButton_.set_enabled(!table.TextMatrix(row, kOpcodeColumn).empty());
+  CommentNextButton_.set_enabled(row < table.Rows() - 1);
+  CommentDoneButton_.set_enabled(true);
+  CommentsTxt_.SetFocus();
+}
+
+void CommentTool::EditClickedRow() {
+  session_.Table1.PaintBack(session_.ClickedRow, kCommentColumn, kCommentColor);
+  session_.SavedComment = session_.Table1.TextMatrix(session_.ClickedRow, kCommentColumn);
+  states_.ControlTransfer(PanelState::kCommentRow);
+}
+
+void CommentTool::CommentsTxt_Change() {
+  std::string text = CommentsTxt_.text();
+  if (!text.empty() && IsBarred(text.back())) {
+    text.pop_back();
+    CommentsTxt_.set_text(text);
+  }
+  session_.Table1.SetTextMatrix(session_.ClickedRow, kCommentColumn, CommentsTxt_.text());
+}
+
+void CommentTool::CommentNextButton_Click() {
+  Unmark(kNormalColor);
+  ++session_.ClickedRow;
+  EditClickedRow();
+  session_.FileChanged = true;
+}
+
+void CommentTool::DefaultCommentButton_Click() {
+  CommentsTxt_.set_text({});
+  ApplyDefaultComment(session_, session_.ClickedRow);
+  CommentsTxt_.SetFocus();
+}
+
+void CommentTool::CommentDoneButton_Click() {
+  Unmark(kNormalColor);
+  CommentsBox_.Hide();
+  states_.ReturnToReady();
+  session_.FileChanged = true;
+}
+
+void CommentTool::CommentCancelButton_Click() {
+  const int row = session_.ClickedRow;
+  session_.Table1.SetTextMatrix(row, kCommentColumn, session_.SavedComment);
+  Unmark(session_.IsOrigin(row) ? kOriginColor : kNormalColor);
+  CommentsBox_.Hide();
+  states_.ReturnToReady();
+}
+
+void CommentTool::Unmark(CellColor color) {
+  session_.Table1.PaintBack(session_.ClickedRow, kCommentColumn, color);
+}
+
+}  // namespace quilla

@@ -1,0 +1,43 @@
+// The comment tool: comments of the user's own, row by row. The table follows each key.
+#ifndef QUILLA_ENTRY_COMMENT_TOOL_H_
+#define QUILLA_ENTRY_COMMENT_TOOL_H_
+
+#include "entry/state_machine.h"
+#include "platform/text_box.h"
+#include "program/session.h"
+
+namespace quilla {
+
+class CommentTool {
+ public:
+  CommentTool(Session& session, StateMachine& states);
+
+  /// Opens the comment of `ClickedRow` for editing.
+  void EditClickedRow();
+
+ private:
+  void CommentStatus(bool status);
+  void CommentsTxt_Change();
+  void CommentNextButton_Click();
+  void DefaultCommentButton_Click();
+  void CommentDoneButton_Click();
+  void CommentCancelButton_Click();
+  /// Takes the mark off the comment under edit.
+  void Unmark(CellColor color);
+
+  Session& session_;
+  StateMachine& states_;
+
+  Box CommentsBox_;
+  Label CommentsHeading_;
+  TextBox CommentsTxt_;
+  Button CommentNextButton_;
+  Button DefaultCommentButton_;
+  Button CommentContinueButton_;
+  Button CommentDoneButton_;
+  Button CommentCancelButton_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_ENTRY_COMMENT_TOOL_H_

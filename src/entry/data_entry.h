@@ -1,0 +1,38 @@
+// Data mode: literal bytes, one to a row, and the switch between the two entry modes.
+#ifndef QUILLA_ENTRY_DATA_ENTRY_H_
+#define QUILLA_ENTRY_DATA_ENTRY_H_
+
+#include "entry/entry_line.h"
+#include "entry/state_machine.h"
+#include "program/digit_keys.h"
+#include "program/session.h"
+
+namespace quilla {
+
+class DataEntry {
+ public:
+  DataEntry(Session& session, StateMachine& states, EntryLine& line);
+
+  /// Switches between program mode and data mode.
+  void EntryMode_Click();
+  Button& AcceptButton() { return DataAcceptButton_; }
+
+ private:
+  void DataStatus(bool status);
+  void DataNum_Click(int index);
+  void DataAcceptButton_Click();
+
+  Session& session_;
+  StateMachine& states_;
+  EntryLine& line_;
+
+  Box DataBox_;
+  Label DataCaption_;
+  Label DataLabel_;
+  DigitKeys DataNum_;
+  Button DataAcceptButton_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_ENTRY_DATA_ENTRY_H_

@@ -1,0 +1,30 @@
+#include "entry/entry_line.h"
+
+#include "entry/default_comment.h"
+#include "program/opcode_cell.h"
+
+namespace quilla {
+
+void EntryLine::DisplayOpcode(int row) {
+  session_.Table1.SetTextMatrix(row, kOpcodeColumn, OpcodeCell(session_.CurrentOpcode));
+}
+
+void EntryLine::FinishLine() {
+  DisplayOpcode(session_.CurrentRow);
+  Complete();
+}
+
+void EntryLine::Complete() {
+  ApplyDefaultComment(session_, session_.CurrentRow);
+  MoveOn();
+}
+
+void EntryLine::MoveOn() {
+  const int next = session_.CurrentRow + 1;
+  if (next == session_.Table1.Rows() || session_.IsInsertMode() || session_.IsOrigin(next)) {
+    rows_.InsertLine(next, 1);
+  }
+  rows_.NextLine(session_.CurrentRow + 1);
+}
+
+}  // namespace quilla

@@ -1,0 +1,115 @@
+#include "entry/instruction_entry.h"
+
+#include "isa/instruction_set.h"
+
+namespace quilla {
+namespace {
+
+/// The state in which the operand of an instruction class is entered.
+PanelState OperandState(InstructionClass operand) {
+  switch (operand) {
+    case InstructionClass::kByteData:
+      return PanelState::kByteOperand;
+    case InstructionClass::kRegister:
+      return PanelState::kRegister;
+    case InstructionClass::kLabel:
+      return PanelState::kLabelOperand;
+    case InstructionClass::kPair:
+      return PanelState::kPair;
+    case InstructionClass::kLxi:
+      return PanelState::kLxiPair;
+    case InstructionClass::kMov:
+      return PanelState::kMovDestination;
+    case InstructionClass::kStack:
+      return PanelState::kStackPair;
+    case InstructionClass::kRestart:
+      return PanelState::kRestart;
+    case InstructionClass::kIndirect:
+      return PanelState::kIndirectPair;
+    case InstructionClass::kMvi:
+      return PanelState::kMviRegister;
+    case InstructionClass::kNoOperand:
+      break;
+  }
+  return PanelState::kReady;
+}
+
+/// Whether the opcode is complete but for its operand bytes as soon as the key is pressed.
+bool HasOpcodeAtOnce(InstructionClass operand) {
+  return operand == InstructionClass::kByteData || operand == InstructionClass::kLabel;
+}
+
+}  // namespace
+
+InstructionEntry::InstructionEntry(Session& session, StateMachine& states, EntryLine& line,
+                                   RegisterEntry& registers)
+    : session_(session),
+      states_(states),
+      line_(line),
+      registers_(registers),
+      InstructionBox_(&session.ProgrammingPanel, "InstructionBox"),
+      InstructionCaption_(&InstructionBox_, "InstructionCaption", "Instruction:"),
+      InstructionLabel_{Label(&InstructionBox_, "InstructionLabel", {}, 0),
+                        Label(&InstructionBox_, "InstructionLabel", {}, 1)} {
+  for (int index = 0; index < kInstructionKeyCount; ++index) {
+    const InstructionKey& key = Inst(index);
+    INST_.push_back(
+        std::make_unique<Button>(&InstructionBox_, "INST", std::string(key.caption), index));
+    INST_.back()->Click = [this, index] { INST_Click(index); };
+    INST_.back()->MouseMove = [this, index] { INST_MouseMove(index); };
+    const std::string_view operands = key.hint.substr(key.caption.size());
+    InstructionHints_.emplace_back(key.hint.substr(0, key.caption.size()),
+                                   operands.empty() ? " " : std::string(operands));
+  }
+  session_.ProgrammingPanel.MouseMove = [this] { Form_MouseMove(); };
+  states_.SetStatus(BoxId::kInstruction, [this](bool status) { InstructionStatus(status); });
+}
+
+void InstructionEntry::InstructionStatus(bool status) { InstructionBox_.set_visible(status); }
+
+void InstructionEntry::INST_Click(int index) {
+  if (!session_.IsReady()) return;
+  session_.FileChanged = true;
+  session_.SelectedInstruction = index;
+  SaveCells();
+  const InstructionKey& key = Inst(index);
+  session_.Table1.SetTextMatrix(session_.CurrentRow, kMnemonicColumn, std::string(key.caption));
+  session_.CurrentOpcode = key.base_opcode;
+  const InstructionClass operand = ClassOf(index);
+  if (operand == InstructionClass::kNoOperand) {
+    line_.FinishLine();
+    states_.ControlTransfer(PanelState::kReady);
+    return;
+  }
+  session_.EntryPending = true;
+  if (HasOpcodeAtOnce(operand)) line_.DisplayOpcode(session_.CurrentRow);
+  states_.ControlTransfer(OperandState(operand));
+}
+
+void InstructionEntry::SaveCells() {
+  const int row = session_.CurrentRow;
+  for (int column = kAddressColumn; column <= kCommentColumn; ++column) {
+    session_.SavedCells[static_cast<std::size_t>(column)] = session_.Table1.TextMatrix(row, column);
+    session_.Table1.SetTextMatrix(row, column, {});
+  }
+  session_.SavedCells[kSavedOperand] = session_.OperandOf(row);
+  session_.StringTable.SetTextMatrix(row, 0, {});
+}
+
+void InstructionEntry::INST_MouseMove(int index) {
+  const auto& [name, operands] = InstructionHints_[static_cast<std::size_t>(index)];
+  if (InstructionLabel_[0].caption() == INST_[static_cast<std::size_t>(index)]->caption()) return;
+  InstructionLabel_[0].set_caption(name);
+  InstructionLabel_[1].set_caption(operands);
+}
+
+void InstructionEntry::ClearInstructionHint() {
+  for (Label& label : InstructionLabel_) label.set_caption({});
+}
+
+void InstructionEntry::Form_MouseMove() {
+  ClearInstructionHint();
+  registers_.ClearRegisterHint();
+}
+
+}  // namespace quilla

@@ -1,0 +1,50 @@
+// The instruction keys: each begins an instruction on the row under the cursor.
+#ifndef QUILLA_ENTRY_INSTRUCTION_ENTRY_H_
+#define QUILLA_ENTRY_INSTRUCTION_ENTRY_H_
+
+#include <array>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "entry/entry_line.h"
+#include "entry/register_entry.h"
+#include "entry/state_machine.h"
+#include "program/session.h"
+
+namespace quilla {
+
+class InstructionEntry {
+ public:
+  InstructionEntry(Session& session, StateMachine& states, EntryLine& line,
+                   RegisterEntry& registers);
+
+  /// Begins the instruction of a key on the row under the cursor, whose cells are kept for the
+  /// cancel action. Nothing unless the panel is ready for entry.
+  void INST_Click(int index);
+  /// Empties the hint above the instruction keys.
+  void ClearInstructionHint();
+
+ private:
+  void InstructionStatus(bool status);
+  void INST_MouseMove(int index);
+  void Form_MouseMove();
+  void SaveCells();
+
+  Session& session_;
+  StateMachine& states_;
+  EntryLine& line_;
+  RegisterEntry& registers_;
+
+  Box InstructionBox_;
+  Label InstructionCaption_;
+  std::array<Label, 2> InstructionLabel_;
+  std::vector<std::unique_ptr<Button>> INST_;
+  /// The operation's name and the rest of its hint, for each key.
+  std::vector<std::pair<std::string, std::string>> InstructionHints_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_ENTRY_INSTRUCTION_ENTRY_H_

@@ -1,0 +1,59 @@
+#include "entry/new_file.h"
+
+#include <string>
+
+namespace quilla {
+namespace {
+
+/// The code of an answer as `MessageResult` holds it.
+std::string CodeOf(BoxAnswer answer) { return std::to_string(static_cast<int>(answer)); }
+
+}  // namespace
+
+NewFileCommand::NewFileCommand(Session& session, StateMachine& states, Rows& rows,
+                               NumberEntry& numbers)
+    : session_(session), states_(states), rows_(rows), numbers_(numbers) {
+  session_.menu.NewFile.Click = [this] { NewFile_Click(); };
+}
+
+void NewFileCommand::New_File() {
+  rows_.SetRows(1);
+  session_.Table1.Clear();
+  session_.StringTable.Clear();
+  rows_.SetRows(kLeastRows);
+  session_.menu.PasteEdit.set_enabled(session_.EditTable.Rows() > 0);
+  for (TextList* list : {static_cast<TextList*>(&session_.LabelCombo), &session_.LabelPlacedList,
+                         &session_.LabelLineList, &session_.LabelUsedList, &session_.LabelEqtList,
+                         static_cast<TextList*>(&session_.XXCombo), &session_.XXEqtList}) {
+    list->Clear();
+  }
+  session_.SelectionAnchor = 0;
+  session_.SelectionTop = 0;
+  session_.SelectionBottom = 0;
+  session_.Table1.SetRowSel(0);
+  session_.CurrentRow = 0;
+  session_.SetWriteMode(false);
+  session_.Table1.SelectRow(0);
+  session_.LastLine = 0;
+  session_.ProgrammingPanel.set_caption(kTitle + session_.FileName);
+  states_.ControlTransfer(PanelState::kReady);
+  session_.OriginList.Clear();
+  session_.LastAddressList.Clear();
+  numbers_.EnterFirstOrigin();
+  session_.SetTip("New File.");
+  session_.FileOrigin = FileOrigin::kNew;
+  session_.FileChanged = false;
+}
+
+void NewFileCommand::NewFile_Click() {
+  if (session_.FileChanged) session_.AskToSaveChanges();
+  if (session_.MessageResult == CodeOf(BoxAnswer::kCancel)) return;
+  if (session_.MessageResult == CodeOf(BoxAnswer::kYes)) {
+    session_.menu.SaveFile.Click();
+    if (session_.FileChanged) return;
+  }
+  session_.FileName = kNewFileName;
+  New_File();
+}
+
+}  // namespace quilla

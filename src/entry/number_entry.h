@@ -1,0 +1,48 @@
+// The number box: the address of an origin, and the number of RST.
+#ifndef QUILLA_ENTRY_NUMBER_ENTRY_H_
+#define QUILLA_ENTRY_NUMBER_ENTRY_H_
+
+#include "entry/data_entry.h"
+#include "entry/entry_line.h"
+#include "entry/state_machine.h"
+#include "platform/timer.h"
+#include "program/digit_keys.h"
+#include "program/session.h"
+#include "symbols/origins.h"
+
+namespace quilla {
+
+class NumberEntry {
+ public:
+  NumberEntry(Session& session, StateMachine& states, EntryLine& line, Origins& origins,
+              DataEntry& data);
+
+  /// Takes the number on display for what the state waits for.
+  void NumberAcceptButton_Click();
+  /// Enters the first origin of a new file, as if its address had been typed and accepted.
+  void EnterFirstOrigin();
+
+ private:
+  void NumberStatus(bool status);
+  void StartupTimer_Timer();
+  void NUM_Click(int index);
+  void NUM_MouseMove(int index);
+
+  Session& session_;
+  StateMachine& states_;
+  EntryLine& line_;
+  Origins& origins_;
+  DataEntry& data_;
+
+  Box NumberBox_;
+  Label DataTypeLabel_;
+  Label NumberLabel_;
+  DigitKeys NUM_;
+  Button NumberAcceptButton_;
+  Button NumberFocusButton_;  // out of sight: takes the keys while there is nothing to accept
+  Timer StartupTimer_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_ENTRY_NUMBER_ENTRY_H_

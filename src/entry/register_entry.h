@@ -1,0 +1,39 @@
+// The register keys: they complete an opcode by arithmetic, by mouse or by their letters.
+#ifndef QUILLA_ENTRY_REGISTER_ENTRY_H_
+#define QUILLA_ENTRY_REGISTER_ENTRY_H_
+
+#include <memory>
+#include <vector>
+
+#include "entry/entry_line.h"
+#include "entry/state_machine.h"
+#include "program/session.h"
+
+namespace quilla {
+
+class RegisterEntry {
+ public:
+  RegisterEntry(Session& session, StateMachine& states, EntryLine& line);
+
+  /// Empties the hint above the register keys.
+  void ClearRegisterHint() { RegisterLabel_.set_caption({}); }
+
+ private:
+  void RegisterStatus(bool status);
+  void REG_Click(int index);
+  void RegisterBox_KeyPress(char key);
+  bool IsOffered(int index) const;
+
+  Session& session_;
+  StateMachine& states_;
+  EntryLine& line_;
+
+  Box RegisterBox_;
+  Label RegisterCaption_;
+  Label RegisterLabel_;
+  std::vector<std::unique_ptr<Button>> REG_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_ENTRY_REGISTER_ENTRY_H_

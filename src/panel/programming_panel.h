@@ -1,0 +1,73 @@
+// The main panel: it makes the parts, owns them and joins them. It has no logic of its own.
+#ifndef QUILLA_PANEL_PROGRAMMING_PANEL_H_
+#define QUILLA_PANEL_PROGRAMMING_PANEL_H_
+
+#include <memory>
+#include <vector>
+
+#include "assembler/assembler.h"
+#include "entry/cancel_action.h"
+#include "entry/comment_tool.h"
+#include "entry/data_entry.h"
+#include "entry/entry_line.h"
+#include "entry/instruction_entry.h"
+#include "entry/new_file.h"
+#include "entry/number_entry.h"
+#include "entry/register_entry.h"
+#include "entry/state_machine.h"
+#include "entry/table_clicks.h"
+#include "entry/write_mode.h"
+#include "platform/form.h"
+#include "program/quit.h"
+#include "program/rows.h"
+#include "program/session.h"
+#include "symbols/address_assignment.h"
+#include "symbols/label_entry.h"
+#include "symbols/origins.h"
+#include "symbols/string_lists.h"
+#include "symbols/variable_entry.h"
+
+namespace quilla {
+
+/// The version that the splash and the first title show.
+inline constexpr const char* kVersion = "6.0";
+
+class ProgrammingPanel {
+ public:
+  explicit ProgrammingPanel(Outside& outside);
+
+  Session& session() { return session_; }
+  Form& form() { return session_.ProgrammingPanel; }
+  /// The dialogs that belong to the panel, open or not.
+  std::vector<Form*> Dialogs() { return {}; }
+
+ private:
+  void Form_Load();
+
+  Session session_;
+  std::vector<std::unique_ptr<Label>> HeadLabel_;
+  Rows rows_{session_};
+  StateMachine states_{session_};
+  EntryLine line_{session_, rows_};
+  RegisterEntry registers_{session_, states_, line_};
+  InstructionEntry instructions_{session_, states_, line_, registers_};
+  DataEntry data_{session_, states_, line_};
+  Origins origins_{session_, states_, rows_};
+  NumberEntry numbers_{session_, states_, line_, origins_, data_};
+  StringLists strings_{session_, states_};
+  LabelEntry labels_{session_, states_, line_, strings_};
+  VariableBox variable_box_{session_};
+  VariableEntry variables_{session_, states_, line_, strings_, variable_box_};
+  CommentTool comments_{session_, states_};
+  TableClicks table_clicks_{session_, states_, rows_, instructions_, data_, comments_};
+  WriteModeSwitch write_mode_{session_, rows_};
+  CancelAction cancel_{session_, states_, rows_, strings_};
+  AddressAssignment addresses_{session_, states_, rows_};
+  Assembler assembler_{session_, states_, addresses_, strings_};
+  NewFileCommand new_file_{session_, states_, rows_, numbers_};
+  QuitCommand quit_{session_};
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_PANEL_PROGRAMMING_PANEL_H_

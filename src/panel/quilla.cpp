@@ -1,0 +1,39 @@
+#include "panel/quilla.h"
+
+#include <string>
+
+namespace quilla {
+namespace {
+
+constexpr int kSplashMs = 20;
+
+}  // namespace
+
+Quilla::Quilla(Outside& outside)
+    : outside_(outside), OpenTimer_(outside.clock, "OpenTimer", kSplashMs) {
+  VersionLabel_.set_caption(std::string("Version ") + kVersion);
+  OpenTimer_.Fire = [this] { OpenTimer_Timer(); };
+}
+
+void Quilla::Start() {
+  outside_.event_loop.Show(OpenForm_);
+  OpenTimer_.Enable();
+}
+
+void Quilla::OpenTimer_Timer() {
+  OpenTimer_.Disable();
+  panel_ = std::make_unique<ProgrammingPanel>(outside_);
+  outside_.event_loop.Show(panel_->form());
+  outside_.event_loop.Unload(OpenForm_);
+}
+
+std::vector<Form*> Quilla::Forms() {
+  std::vector<Form*> forms{&OpenForm_};
+  if (panel_) {
+    forms.push_back(&panel_->form());
+    for (Form* dialog : panel_->Dialogs()) forms.push_back(dialog);
+  }
+  return forms;
+}
+
+}  // namespace quilla

@@ -1,0 +1,42 @@
+// The program from its splash to its end: it shows the splash, makes the main panel a moment
+// later, and knows every window by name.
+#ifndef QUILLA_PANEL_QUILLA_H_
+#define QUILLA_PANEL_QUILLA_H_
+
+#include <memory>
+#include <vector>
+
+#include "panel/programming_panel.h"
+#include "platform/form.h"
+#include "platform/outside.h"
+#include "platform/timer.h"
+
+namespace quilla {
+
+class Quilla {
+ public:
+  explicit Quilla(Outside& outside);
+
+  /// Shows the splash; its timer does the rest.
+  void Start();
+
+  /// The main panel; null until the splash has made it.
+  ProgrammingPanel* panel() { return panel_.get(); }
+  /// All windows, open or not.
+  std::vector<Form*> Forms();
+
+ private:
+  void OpenTimer_Timer();
+
+  Outside& outside_;
+  Form OpenForm_{"OpenForm"};
+  Label DescriptionLabel_{&OpenForm_, "DescriptionLabel",
+                          "Editor Assembler Disassembler Simulator"};
+  Label VersionLabel_{&OpenForm_, "VersionLabel"};
+  Timer OpenTimer_;
+  std::unique_ptr<ProgrammingPanel> panel_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_PANEL_QUILLA_H_

@@ -1,0 +1,63 @@
+// Numbered file channels, and the sequential items that files are made of: texts in double quotes
+// and decimal numbers, separated by commas and line ends. Nothing in a text is escaped.
+#ifndef QUILLA_PLATFORM_FILE_CHANNELS_H_
+#define QUILLA_PLATFORM_FILE_CHANNELS_H_
+
+#include <cstdint>
+#include <fstream>
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace quilla {
+
+/// One item to be written.
+class FileItem {
+ public:
+  static FileItem Text(std::string_view text) { return FileItem('"' + std::string(text) + '"'); }
+  static FileItem Number(std::int64_t number) { return FileItem(std::to_string(number)); }
+  const std::string& form() const { return form_; }
+
+ private:
+  explicit FileItem(std::string form) : form_(std::move(form)) {}
+  std::string form_;
+};
+
+class FileChannels {
+ public:
+  /// Opens a file, its path in UTF-8, for writing from the start or for reading. Fails with
+  /// `kChannelOpen` on a channel that is open and with `kFileNotFound` where the file cannot be
+  /// opened; the channel is closed then.
+  void OpenOutput(int channel, const std::string& path);
+  void OpenInput(int channel, const std::string& path);
+  /// Closes the channel; nothing on a closed one. Fails with `kWriteFailed` when the disk did not
+  /// take all that was written; the channel is closed even then.
+  void Close(int channel);
+  /// Closes the channel whatever has become of the file; for clean-ups after a failure.
+  void Abandon(int channel) { streams_.erase(channel); }
+  bool IsOpen(int channel) const { return streams_.contains(channel); }
+
+  /// Writes items on one line, with commas between them and CR LF behind.
+  /// Fails with `kBadChannel` or `kWriteFailed`.
+  void WriteLine(int channel, std::initializer_list<FileItem> items);
+
+  /// Reads the next item as it stands, without its quotes. A line ends at CR LF, CR or LF; a
+  /// quote that is never closed takes the rest of the file. Fails with `kPastEndOfFile`,
+  /// `kReadFailed` or `kBadChannel`.
+  std::string ReadText(int channel);
+  /// Reads the next item as a decimal number. Fails as ReadText does, with `kNotANumber`, and
+  /// with `kOverflow` for a number that 16 or 32 bits do not hold.
+  std::int16_t ReadNumber16(int channel);
+  std::int32_t ReadNumber32(int channel);
+
+ private:
+  std::fstream& Stream(int channel);
+  void Open(int channel, const std::string& path, std::ios::openmode mode);
+
+  std::map<int, std::fstream> streams_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_PLATFORM_FILE_CHANNELS_H_

@@ -1,0 +1,140 @@
+#include "platform/grid.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "platform/failure.h"
+
+namespace quilla {
+
+Grid::Grid(Control* container, std::string name, int columns)
+    : Control(container, std::move(name)), columns_(columns) {}
+
+Grid::~Grid() = default;
+
+void Grid::SetRows(int rows) {
+  if (rows > Rows()) {
+    InsertRows(Rows(), rows - Rows());
+  } else if (rows < 0) {
+    throw Failure(ErrorNumber::kOutsideTable);
+  } else if (rows < Rows()) {
+    RemoveRows(rows, Rows() - 1);
+  }
+}
+
+void Grid::InsertRows(int at, int count) {
+  if (at < 0 || at > Rows() || count < 0) throw Failure(ErrorNumber::kOutsideTable);
+  if (count > kMaxRows - Rows()) throw Failure(ErrorNumber::kGridMemory);
+  if (count == 0) return;
+  std::vector<Cells> fresh(static_cast<std::size_t>(count));
+  for (Cells& cells : fresh) cells = std::make_unique<Cell[]>(static_cast<std::size_t>(columns_));
+  rows_.insert(rows_.begin() + at, std::make_move_iterator(fresh.begin()),
+               std::make_move_iterator(fresh.end()));
+  if (grid_observer != nullptr) grid_observer->RowsInserted(at, count);
+}
+
+void Grid::AddItem(std::string text) {
+  InsertRows(Rows(), 1);
+  SetTextMatrix(Rows() - 1, 0, std::move(text));
+}
+
+void Grid::RemoveRows(int first, int last) {
+  if (first < 0 || last >= Rows() || first > last) throw Failure(ErrorNumber::kOutsideTable);
+  rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
+  KeepCurrentCellInside();
+  if (grid_observer != nullptr) grid_observer->RowsRemoved(first, last - first + 1);
+}
+
+void Grid::Clear() {
+  for (const Cells& cells : rows_) std::fill_n(cells.get(), columns_, Cell{});
+  if (grid_observer != nullptr && Rows() > 0) grid_observer->RowsChanged(0, Rows() - 1);
+}
+
+const Grid::Cell& Grid::CellAt(int row, int column) const {
+  if (row < 0 || row >= Rows() || column < 0 || column >= columns_) {
+    throw Failure(ErrorNumber::kOutsideTable);
+  }
+  return rows_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+}
+
+void Grid::SetTextMatrix(int row, int column, std::string text) {
+  std::string& cell = CellAt(row, column).text;
+  if (cell == text) return;
+  cell = std::move(text);
+  RowChanged(row);
+}
+
+void Grid::PaintBack(int row, int column, CellColor back) {
+  SelectCell(row, column);
+  CellAt(row, column).back = back;
+  RowChanged(row);
+}
+
+void Grid::Paint(int row, int column, CellColor back, CellColor fore) {
+  SelectCell(row, column);
+  CellAt(row, column).back = back;
+  CellAt(row, column).fore = fore;
+  RowChanged(row);
+}
+
+void Grid::SelectRow(int row) {
+  CellAt(row, 0);
+  row_sel_ = row;
+  MoveTo(row, column_);
+}
+
+void Grid::SelectColumn(int column) {
+  CellAt(row_, column);
+  MoveTo(row_, column);
+}
+
+void Grid::SelectCell(int row, int column) {
+  SelectRow(row);
+  SelectColumn(column);
+}
+
+void Grid::MoveTo(int row, int column) {
+  if (row_ == row && column_ == column) return;
+  row_ = row;
+  column_ = column;
+  if (CurrentCellChange) CurrentCellChange();
+}
+
+void Grid::KeepCurrentCellInside() {
+  row_ = std::clamp(row_, 0, std::max(0, Rows() - 1));
+  row_sel_ = std::clamp(row_sel_, 0, std::max(0, Rows() - 1));
+}
+
+void Grid::PressCell(int row, int column) {
+  CellAt(row, column);
+  mouse_row_ = row;
+  mouse_column_ = column;
+  if (row >= fixed_rows_) {
+    row_sel_ = row;
+    MoveTo(row, column);
+  }
+  Dispatch(MouseDown);
+}
+
+void Grid::ReleaseAt(int row) {
+  row_sel_ = std::clamp(row, std::min(fixed_rows_, Rows() - 1), Rows() - 1);
+  Dispatch(MouseUp);
+}
+
+void Grid::ClickCell() { Dispatch(Click); }
+
+void Grid::HoverCell(int row, int column) {
+  CellAt(row, column);
+  Dispatch(CellMouseMove, column);
+}
+
+void Grid::SetColWidth(int column, int twips) {
+  widths_.at(static_cast<std::size_t>(column)) = twips;
+}
+
+void Grid::SetColAlignment(int column, int code) {
+  alignments_.at(static_cast<std::size_t>(column)) = code;
+}
+
+}  // namespace quilla

@@ -1,0 +1,165 @@
+// A table of texts with coloured cells, a current cell and a mouse selection of rows.
+// Hidden tables are grids that no window shows.
+#ifndef QUILLA_PLATFORM_GRID_H_
+#define QUILLA_PLATFORM_GRID_H_
+
+#include <array>
+#include <compare>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/control.h"
+
+namespace quilla {
+
+/// The colour of a cell: the grid's own, the grid's selection colour, or a value painted.
+class CellColor {
+ public:
+  constexpr CellColor() = default;
+  /// A painted colour, blue-green-red: 0000FFh is pure red.
+  constexpr explicit CellColor(std::int32_t value) : value_(value) {}
+
+  constexpr bool is_painted() const { return value_ >= 0; }
+  /// The painted value; only for a colour that is painted.
+  constexpr std::int32_t value() const { return value_; }
+  constexpr bool operator==(const CellColor&) const = default;
+
+ private:
+  std::int32_t value_ = -1;
+};
+
+inline constexpr CellColor kNormalColor;         // the grid's own, never painted or painted back
+inline constexpr CellColor kSelectionColor{-2};  // the grid's selection colour
+
+class GridObserver : public ControlObserver {
+ public:
+  /// Texts or colours of these rows have changed, both ends included.
+  virtual void RowsChanged(int first, int last) = 0;
+  virtual void RowsInserted(int first, int count) = 0;
+  virtual void RowsRemoved(int first, int count) = 0;
+};
+
+/// How a grid shows its mouse selection: nothing reads it but the window.
+enum class SelectionDisplay { kRows = 0, kCell = 1 };
+
+/// The shape of the mouse pointer over a grid.
+enum class GridPointer { kDefault = 0, kPick = 3 };
+
+class Grid : public Control {
+ public:
+  /// The most rows that a grid holds.
+  static constexpr int kMaxRows = 1'000'000;
+  static constexpr int kMaxColumns = 16;
+
+  Grid(Control* container, std::string name, int columns);
+  ~Grid() override;
+
+  int Rows() const { return static_cast<int>(rows_.size()); }
+  int Cols() const { return columns_; }
+  /// Adds empty rows at the end, or removes rows there. Fails with `kGridMemory` beyond kMaxRows
+  /// and with `kOutsideTable` below 0.
+  void SetRows(int rows);
+  /// Inserts `count` empty rows before row `at`. Fails as SetRows does.
+  void InsertRows(int at, int count);
+  /// Adds one row at the end with a text in column 0.
+  void AddItem(std::string text);
+  /// Removes rows `first` to `last`. Fails with `kOutsideTable` where there are none.
+  void RemoveRows(int first, int last);
+  /// Empties all texts and takes off all colours; the number of rows stays.
+  void Clear();
+
+  /// Reading and writing a text does not move the current cell. A cell outside the table fails
+  /// with `kOutsideTable`, here and below.
+  const std::string& TextMatrix(int row, int column) const { return CellAt(row, column).text; }
+  void SetTextMatrix(int row, int column, std::string text);
+
+  CellColor BackColor(int row, int column) const { return CellAt(row, column).back; }
+  CellColor ForeColor(int row, int column) const { return CellAt(row, column).fore; }
+  /// Painting makes the cell the current one, row first, then column.
+  void PaintBack(int row, int column, CellColor back);
+  void Paint(int row, int column, CellColor back, CellColor fore);
+
+  /// The current cell, and the row where the mouse selection ends.
+  int Row() const { return row_; }
+  int Col() const { return column_; }
+  int RowSel() const { return row_sel_; }
+  /// Selecting from code: a change of the row, then a change of the column, each reported.
+  void SelectRow(int row);
+  void SelectColumn(int column);
+  void SelectCell(int row, int column);
+  /// The row-select value alone.
+  void SetRowSel(int row) { row_sel_ = row; }
+
+  /// Rows at the top that are headings: a press on them does not move the current cell.
+  int FixedRows() const { return fixed_rows_; }
+  void SetFixedRows(int rows) { fixed_rows_ = rows; }
+
+  /// The cell of the last press.
+  int MouseRow() const { return mouse_row_; }
+  int MouseCol() const { return mouse_column_; }
+  /// The user presses on a cell, lets go over a row, and the click follows.
+  void PressCell(int row, int column);
+  void ReleaseAt(int row);
+  void ClickCell();
+  /// The user moves the pointer over a cell.
+  void HoverCell(int row, int column);
+
+  SelectionDisplay selection_display() const { return selection_display_; }
+  void set_selection_display(SelectionDisplay display) { selection_display_ = display; }
+  GridPointer pointer() const { return pointer_; }
+  void set_pointer(GridPointer pointer) { Change(pointer_, pointer, Property::kPointer); }
+
+  /// Widths in 1/1440 inch, and alignment codes: 1 left, 3 and 4 centre.
+  int ColWidth(int column) const { return widths_.at(static_cast<std::size_t>(column)); }
+  int ColAlignment(int column) const { return alignments_.at(static_cast<std::size_t>(column)); }
+  void SetColWidth(int column, int twips);
+  void SetColAlignment(int column, int code);
+
+  std::function<void()> MouseDown;
+  std::function<void()> MouseUp;
+  std::function<void()> Click;
+  /// The pointer is over a cell of this column.
+  std::function<void(int)> CellMouseMove;
+  /// The current cell is another one than before.
+  std::function<void()> CurrentCellChange;
+
+  GridObserver* grid_observer = nullptr;
+
+ private:
+  struct Cell {
+    std::string text;
+    CellColor back;
+    CellColor fore;
+  };
+  using Cells = std::unique_ptr<Cell[]>;
+
+  const Cell& CellAt(int row, int column) const;
+  Cell& CellAt(int row, int column) {
+    return const_cast<Cell&>(static_cast<const Grid*>(this)->CellAt(row, column));
+  }
+  void MoveTo(int row, int column);
+  void KeepCurrentCellInside();
+  void RowChanged(int row) const {
+    if (grid_observer != nullptr) grid_observer->RowsChanged(row, row);
+  }
+
+  int columns_;
+  std::vector<Cells> rows_;
+  int row_ = 0;
+  int column_ = 0;
+  int row_sel_ = 0;
+  int mouse_row_ = 0;
+  int mouse_column_ = 0;
+  int fixed_rows_ = 0;
+  SelectionDisplay selection_display_ = SelectionDisplay::kRows;
+  GridPointer pointer_ = GridPointer::kDefault;
+  std::array<int, kMaxColumns> widths_{};
+  std::array<int, kMaxColumns> alignments_{};
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_PLATFORM_GRID_H_

@@ -1,0 +1,56 @@
+// All that the system needs of the world outside, in one place.
+#ifndef QUILLA_PLATFORM_OUTSIDE_H_
+#define QUILLA_PLATFORM_OUTSIDE_H_
+
+#include "platform/dialogs.h"
+#include "platform/form.h"
+#include "platform/serial_port.h"
+#include "platform/timer.h"
+
+namespace quilla {
+
+/// The event loop that windows live in.
+class EventLoop {
+ public:
+  virtual ~EventLoop() = default;
+
+  /// Shows a window; the caller goes on.
+  void Show(Form& form);
+  /// Shows a window and waits until it is closed; the windows behind it take no input meanwhile.
+  void ShowModal(Form& form);
+  /// Closes a window from code and ends its modal wait; nothing if it is not shown.
+  void Unload(Form& form);
+  /// The user closes a window by its frame: its QueryUnload may keep it open.
+  void CloseByFrame(Form& form);
+
+  /// Lets waiting events be handled, on behalf of `waiter`, and comes back.
+  virtual void Yield(const Control& waiter) = 0;
+  /// Ends the program: nothing further happens once the running handler returns.
+  virtual void End() = 0;
+
+ protected:
+  virtual void OpenWindow(Form& form) = 0;
+  virtual void CloseWindow(Form& form) = 0;
+  /// Handles events until the form is out of sight.
+  virtual void WaitUntilClosed(Form& form) = 0;
+};
+
+class PagePrinter {
+ public:
+  virtual ~PagePrinter() = default;
+  /// Prints a page layout as it stands, one sheet on the default printer.
+  virtual void PrintForm(const Form& layout) = 0;
+};
+
+struct Outside {
+  MessageBoxes& boxes;
+  FileDialogs& file_dialogs;
+  SerialPort& serial_port;
+  Clock& clock;
+  PagePrinter& printer;
+  EventLoop& event_loop;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_PLATFORM_OUTSIDE_H_

@@ -1,0 +1,51 @@
+#include "program/opcode_cell.h"
+
+#include "platform/number_text.h"
+
+namespace quilla {
+namespace {
+
+constexpr std::string_view kBetweenBytes = "   ";
+constexpr std::size_t kDigits = kByteDigits;
+constexpr std::size_t kByteStep = kDigits + kBetweenBytes.size();
+
+std::string_view Part(std::string_view text, std::size_t position) {
+  return position < text.size() ? text.substr(position, kDigits) : std::string_view();
+}
+
+}  // namespace
+
+int ByteCount(std::string_view cell) {
+  switch (cell.size()) {
+    case kOneByteCell:
+      return 1;
+    case kTwoByteCell:
+      return 2;
+    case kThreeByteCell:
+      return 3;
+    default:
+      return 0;
+  }
+}
+
+std::string_view ByteAt(std::string_view cell, int index) {
+  return Part(cell, static_cast<std::size_t>(index) * kByteStep);
+}
+
+int OpcodeOf(std::string_view cell) { return static_cast<int>(HexValue(ByteAt(cell, 0))); }
+
+std::string OpcodeCell(int opcode) { return PaddedHexText(opcode, kByteDigits); }
+
+std::string WithVariable(std::string_view cell, std::string_view byte) {
+  return std::string(ByteAt(cell, 0)).append(kBetweenBytes).append(byte);
+}
+
+std::string WithLabel(std::string_view cell, std::string_view address) {
+  return WithVariable(cell, Part(address, kDigits)).append(kBetweenBytes).append(Part(address, 0));
+}
+
+std::string AddressIn(std::string_view cell) {
+  return std::string(ByteAt(cell, 2)).append(ByteAt(cell, 1));
+}
+
+}  // namespace quilla

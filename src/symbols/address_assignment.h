@@ -1,0 +1,48 @@
+// Assigning addresses: every row its address, every placed label its equivalent, every label
+// operand its bytes, and the blocks checked against each other.
+#ifndef QUILLA_SYMBOLS_ADDRESS_ASSIGNMENT_H_
+#define QUILLA_SYMBOLS_ADDRESS_ASSIGNMENT_H_
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "entry/state_machine.h"
+#include "platform/timer.h"
+#include "program/rows.h"
+#include "program/session.h"
+
+namespace quilla {
+
+class AddressAssignment {
+ public:
+  AddressAssignment(Session& session, StateMachine& states, Rows& rows);
+
+  /// Assigns all addresses and reports the first fault that it finds; the panel is ready
+  /// afterwards unless a fault ended it early. The quiet form (false) does the first block alone
+  /// and checks nothing but the address range. Faults are told to the user and leave
+  /// `AddressError` set. Fails with `kNotANumber` for an origin that is no number.
+  void Assign_Address(bool AddressMessageEnable);
+
+ private:
+  /// The position of each label in LabelCombo, for the time of one assignment.
+  using LabelIndex = std::unordered_map<std::string_view, int>;
+
+  void AssignAddress_Click();
+  bool CheckStrings();
+  /// Assigns the block whose origin is in `row`. Gives the row that ends it.
+  int AssignBlock(int row, const LabelIndex& labels, std::int64_t& last_address);
+  void PatchLabelOperands();
+  void CheckOverlaps();
+  void ReportError(const std::string& text);
+
+  Session& session_;
+  StateMachine& states_;
+  Rows& rows_;
+  Timer AddressTimer_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_SYMBOLS_ADDRESS_ASSIGNMENT_H_

@@ -1,0 +1,43 @@
+// The label box: the 16-bit operand of an instruction, a new label or a known one.
+#ifndef QUILLA_SYMBOLS_LABEL_ENTRY_H_
+#define QUILLA_SYMBOLS_LABEL_ENTRY_H_
+
+#include <string>
+
+#include "entry/entry_line.h"
+#include "entry/state_machine.h"
+#include "platform/text_box.h"
+#include "program/session.h"
+#include "symbols/string_lists.h"
+
+namespace quilla {
+
+class LabelEntry {
+ public:
+  LabelEntry(Session& session, StateMachine& states, EntryLine& line, StringLists& strings);
+
+ private:
+  void LabelStatus(bool status);
+  void NewLabelOption_Click();
+  void ExistingLabelOption_Click();
+  void LabelText_Change();
+  void LabelAcceptButton_Click();
+  /// Writes the operand to the row under the cursor: its name, and its equivalent.
+  void WriteOperand(const std::string& label, const std::string& equivalent);
+
+  Session& session_;
+  StateMachine& states_;
+  EntryLine& line_;
+  StringLists& strings_;
+
+  Box LabelBox_;
+  Label LabelHeading_;
+  Option NewLabelOption_;
+  TextBox LabelText_;
+  Option ExistingLabelOption_;
+  Button LabelAcceptButton_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_SYMBOLS_LABEL_ENTRY_H_

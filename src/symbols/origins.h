@@ -1,0 +1,37 @@
+// Origin rows: each opens a block of the program at its address.
+#ifndef QUILLA_SYMBOLS_ORIGINS_H_
+#define QUILLA_SYMBOLS_ORIGINS_H_
+
+#include <string>
+
+#include "entry/state_machine.h"
+#include "program/rows.h"
+#include "program/session.h"
+
+namespace quilla {
+
+class Origins {
+ public:
+  Origins(Session& session, StateMachine& states, Rows& rows);
+
+  /// Puts an origin with this address at the cursor, or in row 0 of a table without origins.
+  /// False if the address is taken: the user has been told, and nothing is changed.
+  bool AddOrigin(const std::string& address);
+  /// Gives the origin in `ClickedRow` another address. False if the address is taken: the user
+  /// has been told, and OriginList lacks the old address until the next UpdateOrigins.
+  bool ChangeOrigin(const std::string& address);
+
+  /// Rebuilds OriginList from the table and paints the origin rows.
+  void UpdateOrigins();
+
+ private:
+  void ColorOrigin(int row);
+  bool IsTaken(const std::string& address);
+
+  Session& session_;
+  Rows& rows_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_SYMBOLS_ORIGINS_H_

@@ -1,0 +1,54 @@
+// The robot: it plays a script of key presses, clicks and answers on the whole program, and writes
+// down what a user would see.
+#ifndef QUILLA_ROBOT_ROBOT_H_
+#define QUILLA_ROBOT_ROBOT_H_
+
+#include <istream>
+#include <memory>
+#include <ostream>
+
+#include "panel/quilla.h"
+#include "robot/commands.h"
+#include "robot/hands.h"
+#include "robot/model_hands.h"
+#include "robot/scripted_outside.h"
+
+namespace quilla::robot {
+
+/// The exit codes of a play.
+inline constexpr int kPlayed = 0;
+inline constexpr int kNoCommand = 2;
+
+class Robot {
+ public:
+  Robot(std::istream& script, std::ostream& transcript, std::ostream& errors,
+        const HandsFactory& make_hands = MakeModelHands);
+
+  /// Starts the program and plays the script to its end, or to the end of the program. Gives
+  /// kPlayed, or kNoCommand with a line in `errors` at the first line that is no command.
+  /// Plays once.
+  int Play();
+
+  Quilla& quilla() { return quilla_; }
+  ScriptedEventLoop& event_loop() { return outside_.event_loop; }
+
+ private:
+  /// Plays the next line that is neither empty nor a comment; false at the end of the script.
+  bool PlayNextLine();
+
+  std::istream& script_;
+  std::ostream& transcript_;
+  std::ostream& errors_;
+  int line_number_ = 0;
+  ScriptedOutside outside_;
+  Quilla quilla_;
+  std::unique_ptr<Hands> hands_;
+  Commands commands_;
+};
+
+/// Plays a script on the models. Gives the exit code of the play.
+int RunScript(std::istream& script, std::ostream& transcript, std::ostream& errors);
+
+}  // namespace quilla::robot
+
+#endif  // QUILLA_ROBOT_ROBOT_H_

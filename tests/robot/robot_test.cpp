@@ -1,0 +1,77 @@
+#include "robot/robot.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+namespace quilla::robot {
+namespace {
+
+const std::string kStart = "open OpenForm\nclosed OpenForm\n";
+
+TEST(RobotTest, StopsAtTheFirstLineThatIsNoCommand) {
+  for (const std::string line : {"dance",
+                                 "Click EntryMode",
+                                 "click",
+                                 "click Nobody",
+                                 "click Nobody 1",
+                                 "click EntryMode 0",
+                                 "click PortOption",
+                                 "click PortOption 4",
+                                 "click PortOption one",
+                                 "click NoWindow.INST 0",
+                                 "click OpenForm",
+                                 "show TipsLabel TipsLabel",
+                                 "type TipsLabel text",
+                                 "pick Table1 0",
+                                 "cell Table1 0",
+                                 "cell Table1 0 1 2",
+                                 "cell TipsLabel 0 0",
+                                 "drag Table1 0 0 1",
+                                 "hover Table1",
+                                 "hover Table1 1",
+                                 "hover ProgrammingPanel 1",
+                                 "close",
+                                 "close EntryMode",
+                                 "answer maybe",
+                                 "path",
+                                 "nopath x",
+                                 "port 0 busy",
+                                 "port 5 busy",
+                                 "port 1 gone",
+                                 "feed a b",
+                                 "tick",
+                                 "tick -1",
+                                 "tick soon",
+                                 "settle 1",
+                                 "state 1",
+                                 "dump TipsLabel",
+                                 "dump Table1 0 1 2",
+                                 "colors HexList",
+                                 "list Table1",
+                                 "feed \"a"}) {
+    std::istringstream script("# comment\n\nescape\n" + line + "\nshow TipsLabel\n");
+    std::ostringstream transcript;
+    std::ostringstream errors;
+    EXPECT_EQ(RunScript(script, transcript, errors), kNoCommand) << line;
+    EXPECT_EQ(transcript.str(), kStart + "> escape\n> " + line + "\n");
+    EXPECT_TRUE(errors.str().starts_with("line 4: ")) << errors.str();
+    EXPECT_EQ(errors.str().find('\n'), errors.str().size() - 1) << errors.str();
+  }
+}
+
+TEST(RobotTest, LinesMayEndInEitherWay) {
+  std::istringstream script("list HexList\r\n\r\n  list  \"HexList\"");
+  std::ostringstream transcript;
+  std::ostringstream errors;
+  EXPECT_EQ(RunScript(script, transcript, errors), kPlayed);
+  const std::string played =
+      "> list HexList\nHexList empty\n"
+      ">   list  \"HexList\"\nHexList empty\n";
+  EXPECT_EQ(transcript.str(), kStart + played);
+  EXPECT_EQ(errors.str(), "");
+}
+
+}  // namespace
+}  // namespace quilla::robot

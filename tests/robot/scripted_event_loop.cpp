@@ -1,0 +1,50 @@
+#include "robot/scripted_event_loop.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "platform/form.h"
+
+namespace quilla::robot {
+namespace {
+
+// The only window that opens and closes without a word.
+constexpr std::string_view kPanel = "ProgrammingPanel";
+
+}  // namespace
+
+const Form* ScriptedEventLoop::modal() const {
+  // A dialog that code has closed under an inner one waits on for its turn, but blocks no more.
+  const auto top = std::find_if(modal_.rbegin(), modal_.rend(),
+                                [](const Form* form) { return form->visible(); });
+  return top == modal_.rend() ? nullptr : *top;
+}
+
+void ScriptedEventLoop::OpenWindow(Form& form) {
+  if (form.name() != kPanel) transcript_ << "open " << form.name() << '\n';
+  Use(form);
+  if (on_open) on_open(form);
+}
+
+void ScriptedEventLoop::CloseWindow(Form& form) {
+  if (form.name() != kPanel) transcript_ << "closed " << form.name() << '\n';
+  if (active_ == &form) active_ = nullptr;
+  if (on_close) on_close(form);
+}
+
+void ScriptedEventLoop::Yield(const Control& waiter) {
+  try {
+    if (!play_line()) throw ScriptOver{};
+  } catch (const ScriptOver&) {
+    transcript_ << "waiting " << waiter.name() << '\n';
+    throw;
+  }
+}
+
+void ScriptedEventLoop::WaitUntilClosed(Form& form) {
+  modal_.push_back(&form);
+  while (form.visible()) Yield(form);
+  modal_.pop_back();
+}
+
+}  // namespace quilla::robot

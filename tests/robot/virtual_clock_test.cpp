@@ -1,0 +1,105 @@
+#include "robot/virtual_clock.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/timer.h"
+
+namespace quilla::robot {
+namespace {
+
+class VirtualClockTest : public testing::Test {
+ protected:
+  VirtualClockTest() {
+    slow_.Fire = [this] { FireOnce(slow_); };
+    quick_.Fire = [this] { FireOnce(quick_); };
+    other_.Fire = [this] { FireOnce(other_); };
+  }
+
+  void FireOnce(Timer& timer) {
+    timer.Disable();
+    fired_ += timer.name();
+  }
+
+  VirtualClock clock_;
+  Timer slow_{clock_, "S", 30};
+  Timer quick_{clock_, "Q", 10};
+  Timer other_{clock_, "O", 10};
+  std::string fired_;
+};
+
+TEST_F(VirtualClockTest, FiresInOrderOfTimeThenOfEnabling) {
+  slow_.Enable();
+  clock_.Pass(20);
+  other_.Enable();
+  quick_.Enable();
+  clock_.Pass(9);
+  EXPECT_EQ(fired_, "");
+  clock_.Pass(1);
+  EXPECT_EQ(fired_, "SOQ");
+}
+
+TEST_F(VirtualClockTest, EnablingAgainStartsTheIntervalAnew) {
+  quick_.Enable();
+  clock_.Pass(9);
+  quick_.Enable();
+  other_.Enable();
+  other_.Disable();
+  clock_.Pass(9);
+  EXPECT_EQ(fired_, "");
+  clock_.Pass(1);
+  EXPECT_EQ(fired_, "Q");
+}
+
+TEST_F(VirtualClockTest, TimerThatStaysEnabledIsDueAgain) {
+  quick_.Fire = [this] {
+    fired_ += "Q";
+    if (fired_.size() == 5) quick_.Disable();
+  };
+  quick_.Enable();
+  slow_.Enable();
+  clock_.Pass(25);
+  EXPECT_EQ(fired_, "QQ");
+  clock_.PassAll();
+  EXPECT_EQ(fired_, "QQQSQ") << "at one time, the timer enabled first";
+}
+
+TEST_F(VirtualClockTest, SettlingPlaysAChainToItsEnd) {
+  quick_.Fire = [this] {
+    FireOnce(quick_);
+    slow_.Enable();
+    other_.Enable();
+  };
+  quick_.Enable();
+  clock_.PassAll();
+  EXPECT_EQ(fired_, "QOS");
+}
+
+TEST_F(VirtualClockTest, HandlerMayLetTimePassItself) {
+  quick_.Fire = [this] {
+    FireOnce(quick_);
+    clock_.Pass(100);
+    other_.Enable();
+  };
+  slow_.Enable();
+  quick_.Enable();
+  clock_.Pass(15);
+  EXPECT_EQ(fired_, "QS");
+  clock_.Pass(9);
+  EXPECT_EQ(fired_, "QS") << "time stood still behind the 110 ms that had passed";
+  clock_.Pass(1);
+  EXPECT_EQ(fired_, "QSO");
+}
+
+TEST_F(VirtualClockTest, TimerThatGoesIsForgotten) {
+  {
+    Timer gone(clock_, "G", 5);
+    gone.Enable();
+  }
+  clock_.PassAll();
+  EXPECT_EQ(fired_, "");
+}
+
+}  // namespace
+}  // namespace quilla::robot

@@ -14,16 +14,23 @@
 #include "entry/new_file.h"
 #include "entry/number_entry.h"
 #include "entry/register_entry.h"
+#include "entry/row_clipboard.h"
 #include "entry/state_machine.h"
 #include "entry/table_clicks.h"
 #include "entry/write_mode.h"
+#include "formats/project_file.h"
 #include "platform/form.h"
 #include "program/quit.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "search/find_label.h"
+#include "search/replace_label.h"
+#include "search/variable_tools.h"
 #include "symbols/address_assignment.h"
 #include "symbols/label_entry.h"
+#include "symbols/label_placement.h"
 #include "symbols/origins.h"
+#include "symbols/renumber_dialog.h"
 #include "symbols/string_lists.h"
 #include "symbols/variable_entry.h"
 
@@ -39,7 +46,7 @@ class ProgrammingPanel {
   Session& session() { return session_; }
   Form& form() { return session_.ProgrammingPanel; }
   /// The dialogs that belong to the panel, open or not.
-  std::vector<Form*> Dialogs() { return {}; }
+  std::vector<Form*> Dialogs() { return {&equivalents_.form()}; }
 
  private:
   void Form_Load();
@@ -62,9 +69,16 @@ class ProgrammingPanel {
   TableClicks table_clicks_{session_, states_, rows_, instructions_, data_, comments_};
   WriteModeSwitch write_mode_{session_, rows_};
   CancelAction cancel_{session_, states_, rows_, strings_};
+  RowClipboard clipboard_{session_, states_, rows_, strings_};
+  LabelPlacement placement_{session_, states_, strings_};
+  FindLabelTool find_label_{session_, states_, strings_};
+  ReplaceLabelTool replace_label_{session_, states_, strings_, placement_};
+  VariableTools variable_tools_{session_, states_, variable_box_};
+  RenumberDialog equivalents_{session_};
   AddressAssignment addresses_{session_, states_, rows_};
   Assembler assembler_{session_, states_, addresses_, strings_};
   NewFileCommand new_file_{session_, states_, rows_, numbers_};
+  ProjectFile project_{session_, states_, rows_, origins_, new_file_};
   QuitCommand quit_{session_};
 };
 

@@ -1,0 +1,212 @@
+#include "formats/project_file.h"
+
+#include <cstddef>
+#include <exception>
+#include <limits>
+#include <string>
+
+#include "platform/characters.h"
+#include "platform/failure.h"
+
+namespace quilla {
+namespace {
+
+constexpr int kChannel = 3;
+constexpr const char* kWarning =
+    "Warning: If the contents of this file are altered, the editor assembler might not read the "
+    "file properly.";
+constexpr const char* kFormatTag = "8085";
+constexpr const char* kEndOfTable = "EOT";
+constexpr const char* kEndOfFile = "EOF";
+constexpr const char* kFilter = "Brelvanor Assembler Files (*.baf)|*.baf";
+constexpr const char* kExtension = ".baf";
+constexpr std::size_t kExtensionLength = 4;
+
+/// The path with its last four characters replaced by the extension, whatever they are. Fails
+/// with `kOutsideList` for a shorter path.
+std::string WithExtension(const std::string& path) {
+  auto characters = SplitCharacters(path);
+  if (characters.size() < kExtensionLength) throw Failure(ErrorNumber::kOutsideList);
+  characters.resize(characters.size() - kExtensionLength);
+  std::string result;
+  for (const std::string& character : characters) result += character;
+  return result + kExtension;
+}
+
+}  // namespace
+
+ProjectFile::ProjectFile(Session& session, StateMachine& states, Rows& rows, Origins& origins,
+                         NewFileCommand& new_file)
+    : session_(session),
+      states_(states),
+      rows_(rows),
+      origins_(origins),
+      new_file_(new_file),
+      FileDialog_(session.outside.file_dialogs) {
+  session_.menu.SaveFile.Click = [this] { SaveFile_Click(); };
+  session_.menu.SaveAsFile.Click = [this] { SaveAsFile_Click(); };
+  session_.menu.OpenFile.Click = [this] { OpenFile_Click(); };
+}
+
+void ProjectFile::SaveFile_Click() {
+  if (session_.FileOrigin == FileOrigin::kNew) {
+    SaveAsFile_Click();
+    return;
+  }
+  try {
+    session_.SetTip("Saving file . . .");
+    WriteProject();
+    SaveDone();
+  } catch (const Failure&) {
+    SaveFailed();
+  }
+}
+
+void ProjectFile::SaveAsFile_Click() {
+  try {
+    FileDialog_.Flags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
+    FileDialog_.Filter = kFilter;
+    FileDialog_.DialogTitle = "Save As";
+    FileDialog_.ShowSave();
+    session_.ProjectPath = FileDialog_.FileName;
+    session_.FileName = FileDialog_.FileTitle;
+    session_.ProjectPath = WithExtension(session_.ProjectPath);
+    session_.SetTip("Saving file . . .");
+    session_.ProgrammingPanel.set_pointer(FormPointer::kBusy);
+    WriteProject();
+    SaveDone();
+  } catch (const Failure& failure) {
+    if (failure.number() == ErrorNumber::kDialogCancelled) {
+      states_.ReturnToReady();
+    } else {
+      SaveFailed();
+    }
+  }
+  session_.ProgrammingPanel.set_pointer(FormPointer::kNormal);
+}
+
+void ProjectFile::SaveDone() {
+  session_.ProgrammingPanel.set_caption(kTitle + session_.FileName);
+  states_.ReturnToReady();
+  session_.SetTip("File Saved.");
+  session_.FileOrigin = FileOrigin::kSaved;
+  session_.FileChanged = false;
+}
+
+void ProjectFile::SaveFailed() {
+  session_.channels.Abandon(kChannel);
+  session_.ShowCritical("Unable to save file.");
+  states_.ReturnToReady();
+}
+
+void ProjectFile::WriteProject() {
+  FileChannels& file = session_.channels;
+  Grid& table = session_.Table1;
+  file.OpenOutput(kChannel, session_.ProjectPath);
+  file.WriteLine(kChannel, {FileItem::Text(kWarning)});
+  file.WriteLine(kChannel, {FileItem::Text(kFormatTag)});
+  file.WriteLine(kChannel, {FileItem::Number(table.Rows())});
+  for (int row = 0; row < table.Rows(); ++row) {
+    if (!session_.IsOrigin(row)) table.SetTextMatrix(row, kAddressColumn, {});
+    for (int column = 0; column < kProgramColumns; ++column) {
+      file.WriteLine(kChannel, {FileItem::Text(table.TextMatrix(row, column))});
+    }
+    file.WriteLine(kChannel, {FileItem::Text(session_.OperandOf(row))});
+  }
+  file.WriteLine(kChannel, {FileItem::Text(kEndOfTable)});
+  WriteStrings(session_.LabelCombo, session_.LabelEqtList);
+  WriteStrings(session_.XXCombo, session_.XXEqtList);
+  file.WriteLine(kChannel, {FileItem::Text(kEndOfFile)});
+  file.Close(kChannel);
+}
+
+void ProjectFile::WriteStrings(const TextList& names, const TextList& equivalents) {
+  if (names.Count() > std::numeric_limits<std::int16_t>::max()) {
+    throw Failure(ErrorNumber::kOverflow);
+  }
+  FileChannels& file = session_.channels;
+  file.WriteLine(kChannel, {FileItem::Number(names.Count())});
+  for (int i = 0; i < names.Count(); ++i) {
+    file.WriteLine(kChannel, {FileItem::Text(names[i]), FileItem::Text(equivalents[i])});
+  }
+}
+
+void ProjectFile::OpenFile_Click() {
+  if (session_.FileChanged) {
+    const BoxAnswer answer = session_.AskToSaveChanges();
+    if (answer == BoxAnswer::kCancel) return;
+    if (answer == BoxAnswer::kYes) {
+      SaveFile_Click();
+      if (session_.FileChanged) return;
+    }
+  }
+  try {
+    FileDialog_.Flags = kHideReadOnly | kPathMustExist | kFileMustExist;
+    FileDialog_.Filter = kFilter;
+    FileDialog_.DialogTitle = "Open";
+    FileDialog_.ShowOpen();
+  } catch (const Failure& failure) {
+    if (failure.number() == ErrorNumber::kDialogCancelled) return;
+    session_.ShowCritical("Unable to open file.");
+    new_file_.New_File();
+    return;
+  }
+  session_.ProjectPath = FileDialog_.FileName;
+  session_.FileName = FileDialog_.FileTitle;
+  session_.ProgrammingPanel.set_pointer(FormPointer::kBusy);
+  Open_File();
+  session_.FileOrigin = FileOrigin::kOpened;
+  session_.FileChanged = false;
+}
+
+void ProjectFile::Open_File() {
+  new_file_.New_File();
+  session_.SetTip("Opening file . . .");
+  try {
+    ReadProject();
+    session_.channels.Close(kChannel);
+    origins_.UpdateOrigins();
+    session_.ProgrammingPanel.set_caption(kTitle + session_.FileName);
+    session_.SetWriteMode(false);
+    rows_.NextLine(1);
+    states_.ControlTransfer(PanelState::kReady);
+    session_.SetTip("File Opened.");
+  } catch (const std::exception&) {
+    session_.ProgrammingPanel.set_pointer(FormPointer::kNormal);
+    session_.ShowCritical("Unable to open file.");
+    new_file_.New_File();
+    session_.channels.Abandon(kChannel);
+    states_.ReturnToReady();
+  }
+  session_.ProgrammingPanel.set_pointer(FormPointer::kNormal);
+}
+
+void ProjectFile::ReadProject() {
+  FileChannels& file = session_.channels;
+  file.OpenInput(kChannel, session_.ProjectPath);
+  file.ReadText(kChannel);  // the warning
+  if (file.ReadText(kChannel) != kFormatTag) throw Failure(ErrorNumber::kReadFailed);
+  rows_.SetRows(file.ReadNumber32(kChannel));
+  session_.Table1.Clear();
+  session_.StringTable.Clear();
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    for (int column = 0; column < kProgramColumns; ++column) {
+      session_.Table1.SetTextMatrix(row, column, file.ReadText(kChannel));
+    }
+    session_.StringTable.SetTextMatrix(row, 0, file.ReadText(kChannel));
+  }
+  file.ReadText(kChannel);  // the end of the table
+  ReadStrings(session_.LabelCombo, session_.LabelEqtList);
+  ReadStrings(session_.XXCombo, session_.XXEqtList);
+  file.ReadText(kChannel);  // the end of the file
+}
+
+void ProjectFile::ReadStrings(TextList& names, TextList& equivalents) {
+  const int count = session_.channels.ReadNumber16(kChannel);
+  for (int i = 0; i < count; ++i) {
+    names.Set(i, session_.channels.ReadText(kChannel));
+    equivalents.Set(i, session_.channels.ReadText(kChannel));
+  }
+}
+
+}  // namespace quilla

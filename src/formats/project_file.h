@@ -1,0 +1,49 @@
+// The project file: the whole table, the strings of its rows, the labels and the variables, as
+// sequential text items. The commands that save and open it.
+#ifndef QUILLA_FORMATS_PROJECT_FILE_H_
+#define QUILLA_FORMATS_PROJECT_FILE_H_
+
+#include "entry/new_file.h"
+#include "entry/state_machine.h"
+#include "platform/dialogs.h"
+#include "program/rows.h"
+#include "program/session.h"
+#include "symbols/origins.h"
+
+namespace quilla {
+
+class ProjectFile {
+ public:
+  ProjectFile(Session& session, StateMachine& states, Rows& rows, Origins& origins,
+              NewFileCommand& new_file);
+
+  /// Saves under the name of the session, or asks for one if it has none. Failures are told to
+  /// the user; `FileChanged` tells whether the save came about.
+  void SaveFile_Click();
+  void SaveAsFile_Click();
+  /// Offers to save unsaved changes, asks for a file and opens it.
+  void OpenFile_Click();
+  /// Replaces the session by the file that `ProjectPath` names. A file that cannot be read is
+  /// told to the user and leaves an empty session.
+  void Open_File();
+
+ private:
+  void WriteProject();
+  void WriteStrings(const TextList& names, const TextList& equivalents);
+  void ReadProject();
+  void ReadStrings(TextList& names, TextList& equivalents);
+  /// What both saves do once the file is written.
+  void SaveDone();
+  void SaveFailed();
+
+  Session& session_;
+  StateMachine& states_;
+  Rows& rows_;
+  Origins& origins_;
+  NewFileCommand& new_file_;
+  CommonDialog FileDialog_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_FORMATS_PROJECT_FILE_H_

@@ -1,0 +1,186 @@
+#include "search/replace_label.h"
+
+#include "platform/number_text.h"
+#include "program/opcode_cell.h"
+#include "search/find_label.h"
+#include "symbols/string_inputs.h"
+
+namespace quilla {
+
+ReplaceLabelTool::ReplaceLabelTool(Session& session, StateMachine& states, StringLists& strings,
+                                   const LabelPlacement& placement)
+    : session_(session),
+      states_(states),
+      strings_(strings),
+      placement_(placement),
+      painter_(session),
+      ReplaceBox_(&session.ProgrammingPanel, "ReplaceBox"),
+      ReplaceHeading_(&ReplaceBox_, "ReplaceHeading", "Label"),
+      NewReplaceOption_(&ReplaceBox_, "NewReplaceOption", "New:"),
+      ReplaceText_(&ReplaceBox_, "ReplaceText", kLongestName),
+      ExistingReplaceOption_(&ReplaceBox_, "ExistingReplaceOption", "Existing:"),
+      ReplaceAcceptButton_(&ReplaceBox_, "ReplaceAcceptButton", "Replace"),
+      ReplaceDoneButton_(&ReplaceBox_, "ReplaceDoneButton", "Done") {
+  session_.ReplaceCombo.PlaceIn(&ReplaceBox_);
+  session_.ReplaceCombo.Show();
+  ReplaceAcceptButton_.set_enabled(false);
+  ReplaceText_.TextChange = [this] { ReplaceText_Change(); };
+  NewReplaceOption_.Click = [this] { NewReplaceOption_Click(); };
+  ExistingReplaceOption_.Click = [this] { ExistingReplaceOption_Click(); };
+  ReplaceAcceptButton_.Click = [this] { ReplaceAcceptButton_Click(); };
+  ReplaceDoneButton_.Click = [this] { ReplaceDoneButton_Click(); };
+  ReplaceBox_.Hide();
+  session_.menu.ReplaceLabel.Click = [this] { states_.ControlTransfer(PanelState::kReplaceLabel); };
+  states_.SetStatus(BoxId::kReplace, [this](bool status) { ReplaceStatus(status); });
+  states_.SetPicked(PanelState::kReplacePicked, [this] { RowPicked(); });
+}
+
+void ReplaceLabelTool::ReplaceStatus(bool status) {
+  if (!status) {
+    ReplaceBox_.Hide();
+    return;
+  }
+  session_.Table1.set_selection_display(SelectionDisplay::kCell);
+  strings_.UpdateLabels();
+  if (!OfferLabels(session_, states_)) return;
+  PaintCandidates();
+  ReplaceBox_.Show();
+  ExistingReplaceOption_.set_enabled(!session_.ReplaceCombo.IsEmpty());
+  session_.ReplaceCombo.SelectFirst();
+  NewReplaceOption_.set_checked(true);
+  OfferNewName(ReplaceText_, session_.ReplaceCombo);
+  ReplaceAcceptButton_.set_enabled(false);
+}
+
+void ReplaceLabelTool::PaintCandidates() {
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    if (painter_.HasLabel(row)) painter_.PaintCandidate(row, kLabelColumn);
+    if (painter_.HasOperandOfLength(row, kThreeByteCell)) {
+      painter_.PaintCandidate(row, kMnemonicColumn);
+    }
+  }
+}
+
+void ReplaceLabelTool::RowPicked() {
+  if (ExistingReplaceOption_.checked()) {
+    ReplaceAcceptButton_.set_enabled(true);
+    ReplaceAcceptButton_.MakeDefault();
+  } else {
+    ReplaceText_Change();
+  }
+}
+
+void ReplaceLabelTool::ReplaceText_Change() {
+  if (!ReplaceText_.enabled()) return;
+  const bool picked = session_.CurrentPanelState == PanelState::kReplacePicked;
+  ReplaceAcceptButton_.set_enabled(picked && IsGoodName(ReplaceText_.text()));
+  if (ReplaceAcceptButton_.enabled()) ReplaceAcceptButton_.MakeDefault();
+}
+
+void ReplaceLabelTool::NewReplaceOption_Click() {
+  OfferNewName(ReplaceText_, session_.ReplaceCombo);
+  ReplaceText_.SetFocus();
+  ReplaceAcceptButton_.set_enabled(true);
+}
+
+void ReplaceLabelTool::ExistingReplaceOption_Click() {
+  OfferKnownName(ReplaceText_, session_.ReplaceCombo);
+  session_.ReplaceCombo.SetFocus();
+  ReplaceAcceptButton_.set_enabled(true);
+  ReplaceAcceptButton_.MakeDefault();
+}
+
+void ReplaceLabelTool::ReplaceAcceptButton_Click() {
+  if (ExistingReplaceOption_.checked()) {
+    ReplaceByKnown();
+  } else if (strings_.IsTaken(placement_.NewName())) {  // the place tool's box decides
+    session_.ShowCritical("The string '" + ReplaceText_.text() +
+                          "' already exists. Please enter another string.");
+    ReplaceText_.set_text({});
+    ReplaceText_.SetFocus();
+    return;
+  } else {
+    ReplaceByNew(ReplaceText_.text());
+  }
+  strings_.UpdateLabels();
+  states_.ControlTransfer(PanelState::kReplaceLabel);
+  session_.FileChanged = true;
+}
+
+void ReplaceLabelTool::ReplaceByKnown() {
+  const int label = session_.ReplaceCombo.index();
+  const std::string name = session_.ReplaceCombo.text();
+  bool label_done = false;
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    if (!label_done && painter_.HasLabel(row) && painter_.IsSelected(row, kLabelColumn)) {
+      MoveKnownLabel(label, name, row);
+      label_done = true;
+    }
+    if (painter_.HasOperand(row) && painter_.IsSelected(row, kMnemonicColumn)) {
+      painter_.RenameOperand(row, name, session_.Table1.TextMatrix(row, kOpcodeColumn));
+      session_.LabelUsedList.Set(session_.LabelCombo.Count(), kYesFlag);
+    }
+  }
+}
+
+void ReplaceLabelTool::MoveKnownLabel(int label, const std::string& name, int row) {
+  const bool placed = DecimalValue(session_.LabelPlacedList[label]) != 0;
+  const std::string line = session_.LabelLineList[label];
+  const auto old_row = static_cast<int>(DecimalValue(line));
+  if (placed && old_row != row) {
+    const BoxAnswer answer =
+        session_.Ask(BoxIcon::kQuestion,
+                     "The label '" + name + "' is already placed in line # " + line +
+                         ". Do you want to reposition it to line # " + std::to_string(row) + "?",
+                     BoxButtons::kYesNo);
+    if (answer == BoxAnswer::kNo) return;
+  }
+  if (placed) {
+    session_.Table1.SetTextMatrix(old_row, kLabelColumn, {});
+    painter_.PaintNormal(old_row, kLabelColumn);
+  }
+  session_.Table1.SetTextMatrix(row, kLabelColumn, name);
+  session_.LabelLineList.Set(label, std::to_string(row));
+}
+
+void ReplaceLabelTool::ReplaceByNew(const std::string& name) {
+  bool label_done = false;
+  bool listed = false;
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    if (!label_done && painter_.HasLabel(row) && painter_.IsSelected(row, kLabelColumn)) {
+      session_.Table1.SetTextMatrix(row, kLabelColumn, name);
+      if (!listed) {
+        session_.AddLabel({.name = name,
+                           .placed = kYesFlag,
+                           .used = kNoFlag,
+                           .line = kYesFlag,  // whatever the row: the lists are rebuilt at the end
+                           .equivalent = kUnknownAddress});
+      }
+      label_done = true;
+      listed = true;
+    }
+    if (painter_.HasOperand(row) && painter_.IsSelected(row, kMnemonicColumn)) {
+      painter_.RenameOperand(
+          row, name, WithLabel(session_.Table1.TextMatrix(row, kOpcodeColumn), kUnknownAddress));
+      if (!listed) {
+        session_.AddLabel({.name = name,
+                           .placed = kNoFlag,
+                           .used = kYesFlag,
+                           .line = kNoFlag,
+                           .equivalent = kUnknownAddress});
+      }
+      listed = true;
+    }
+  }
+}
+
+void ReplaceLabelTool::ReplaceDoneButton_Click() {
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    const bool labelled = !session_.Table1.TextMatrix(row, kLabelColumn).empty();
+    if (labelled) painter_.PaintNormal(row, kLabelColumn);
+    if (painter_.HasOperand(row)) painter_.PaintNormal(row, kMnemonicColumn);
+  }
+  states_.ReturnToReady();
+}
+
+}  // namespace quilla

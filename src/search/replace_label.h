@@ -1,0 +1,53 @@
+// Replacing labels: the candidates are painted, the user selects some, and they take another name.
+#ifndef QUILLA_SEARCH_REPLACE_LABEL_H_
+#define QUILLA_SEARCH_REPLACE_LABEL_H_
+
+#include <string>
+
+#include "entry/state_machine.h"
+#include "platform/text_box.h"
+#include "program/session.h"
+#include "search/string_painter.h"
+#include "symbols/label_placement.h"
+#include "symbols/string_lists.h"
+
+namespace quilla {
+
+class ReplaceLabelTool {
+ public:
+  ReplaceLabelTool(Session& session, StateMachine& states, StringLists& strings,
+                   const LabelPlacement& placement);
+
+ private:
+  void ReplaceStatus(bool status);
+  void RowPicked();
+  void ReplaceText_Change();
+  void NewReplaceOption_Click();
+  void ExistingReplaceOption_Click();
+  void ReplaceAcceptButton_Click();
+  void ReplaceDoneButton_Click();
+
+  void PaintCandidates();
+  void ReplaceByKnown();
+  void ReplaceByNew(const std::string& name);
+  /// Moves a known label to a row, its old row emptied; nothing if the user says no.
+  void MoveKnownLabel(int label, const std::string& name, int row);
+
+  Session& session_;
+  StateMachine& states_;
+  StringLists& strings_;
+  const LabelPlacement& placement_;
+  StringPainter painter_;
+
+  Box ReplaceBox_;
+  Label ReplaceHeading_;
+  Option NewReplaceOption_;
+  TextBox ReplaceText_;
+  Option ExistingReplaceOption_;
+  Button ReplaceAcceptButton_;
+  Button ReplaceDoneButton_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_SEARCH_REPLACE_LABEL_H_

@@ -1,0 +1,37 @@
+#include "search/string_painter.h"
+
+#include "entry/default_comment.h"
+#include "program/mnemonic.h"
+
+namespace quilla {
+
+int StringPainter::PaintMatch(int row, int column, bool matches) {
+  if (matches) {
+    PaintFound(row, column);
+  } else {
+    PaintNormal(row, column);
+  }
+  return matches ? 1 : 0;
+}
+
+void StringPainter::RenameOperand(int row, const std::string& name, const std::string& cell) {
+  table_.SetTextMatrix(
+      row, kMnemonicColumn,
+      WithOperand(table_.TextMatrix(row, kMnemonicColumn), session_.OperandOf(row), name));
+  table_.SetTextMatrix(row, kOpcodeColumn, cell);
+  session_.StringTable.SetTextMatrix(row, 0, name);
+  ApplyDefaultComment(session_, row);
+}
+
+void StringPainter::TellUses(std::string_view kind, const std::string& name, int uses) {
+  const std::string subject = "The " + std::string(kind) + " '" + name + "' is ";
+  if (uses == 0) {
+    session_.ShowInformation(subject + "not used in the program.");
+  } else if (uses == 1) {
+    session_.ShowInformation(subject + "used 1 time in the program.");
+  } else {
+    session_.ShowInformation(subject + "used " + std::to_string(uses) + " times in the program.");
+  }
+}
+
+}  // namespace quilla

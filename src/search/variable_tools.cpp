@@ -1,0 +1,112 @@
+#include "search/variable_tools.h"
+
+#include "program/opcode_cell.h"
+#include "symbols/string_inputs.h"
+
+namespace quilla {
+
+VariableTools::VariableTools(Session& session, StateMachine& states, VariableBox& box)
+    : session_(session), states_(states), box_(box), painter_(session) {
+  box_.XXFindButton.Click = [this] { XXFindButton_Click(); };
+  box_.XXReplaceButton.Click = [this] { XXReplaceButton_Click(); };
+  box_.XXDoneButton.Click = [this] { XXDoneButton_Click(); };
+  session_.menu.FindVariable.Click = [this] { states_.ControlTransfer(PanelState::kFindVariable); };
+  session_.menu.ReplaceVariable.Click = [this] {
+    states_.ControlTransfer(PanelState::kReplaceVariable);
+  };
+  states_.SetStatus(BoxId::kFindVariable, [this](bool) { OpenFind(); });
+  states_.SetStatus(BoxId::kReplaceVariable, [this](bool) { OpenReplace(); });
+}
+
+void VariableTools::OpenFind() {
+  box_.Reset();
+  if (box_.XXCombo.IsEmpty()) {
+    TellNoVariables();
+    return;
+  }
+  box_.XXBox.Show();
+  SetLive(box_.XXText, false);
+  SetLive(box_.XXCombo, true);
+  box_.XXCombo.SelectFirst();
+  box_.XXFindButton.Show();
+  box_.XXFindButton.MakeDefault();
+  box_.XXDoneButton.Show();
+}
+
+void VariableTools::OpenReplace() {
+  session_.SetTip("Searching for variables . . .");
+  if (box_.XXCombo.IsEmpty() || !PaintCandidates()) {
+    TellNoVariables();
+    return;
+  }
+  box_.Reset();
+  box_.OfferNewOrKnown(box_.XXReplaceButton);
+  box_.XXDoneButton.Show();
+  box_.XXText.SetFocus();
+}
+
+bool VariableTools::PaintCandidates() {
+  bool any = false;
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    if (!painter_.HasOperandOfLength(row, kTwoByteCell)) continue;
+    painter_.PaintCandidate(row, kMnemonicColumn);
+    any = true;
+  }
+  return any;
+}
+
+void VariableTools::TellNoVariables() {
+  session_.ShowInformation("No variables used in program.");
+  states_.ReturnToReady();
+}
+
+void VariableTools::XXFindButton_Click() {
+  const std::string name = box_.XXCombo.text();
+  session_.SetTip("Searching for '" + name + "' . . .");
+  int uses = 0;
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    if (painter_.HasOperand(row)) {
+      uses += painter_.PaintMatch(row, kMnemonicColumn, session_.OperandOf(row) == name);
+    }
+  }
+  session_.SetTip("Completed searching for '" + name + "'.");
+  painter_.TellUses("variable", name, uses);
+}
+
+void VariableTools::XXReplaceButton_Click() {
+  if (box_.ExistingXXOption.checked()) {
+    ReplaceSelected(box_.XXCombo.text(), session_.XXEqtList[box_.XXCombo.index()]);
+  } else {
+    const std::string name = box_.XXText.text();
+    if (box_.XXCombo.Find(name) >= 0) {
+      session_.ShowCritical(
+          "String already present as Label or Variable. Please enter another label.");
+      box_.XXText.set_text({});
+      box_.XXText.SetFocus();
+      return;
+    }
+    session_.XXEqtList.Add(kUnknownByte);
+    box_.XXCombo.Add(name);
+    ReplaceSelected(name, kUnknownByte);
+  }
+  session_.FileChanged = true;
+  states_.ControlTransfer(PanelState::kReplaceVariable);
+}
+
+void VariableTools::ReplaceSelected(const std::string& name, const std::string& equivalent) {
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    if (painter_.HasOperand(row) && painter_.IsSelected(row, kMnemonicColumn)) {
+      painter_.RenameOperand(
+          row, name, WithVariable(session_.Table1.TextMatrix(row, kOpcodeColumn), equivalent));
+    }
+  }
+}
+
+void VariableTools::XXDoneButton_Click() {
+  for (int row = 0; row < session_.Table1.Rows(); ++row) {
+    if (painter_.HasOperand(row)) painter_.PaintNormal(row, kMnemonicColumn);
+  }
+  states_.ReturnToReady();
+}
+
+}  // namespace quilla

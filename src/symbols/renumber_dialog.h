@@ -1,0 +1,87 @@
+// The equivalents tool: the numbers behind labels and variables. Edits stay in the dialog's
+// tables until Done; closing the window by its frame drops them.
+#ifndef QUILLA_SYMBOLS_RENUMBER_DIALOG_H_
+#define QUILLA_SYMBOLS_RENUMBER_DIALOG_H_
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "platform/form.h"
+#include "platform/timer.h"
+#include "program/digit_keys.h"
+#include "program/session.h"
+
+namespace quilla {
+
+/// One page of the dialog: a table of strings, and the box in which one is edited.
+class EquivalentsPage {
+ public:
+  /// The vocabulary names of a page's controls, and the display that an edit starts from.
+  struct Names {
+    const char* frame;
+    const char* table;
+    const char* box;
+    const char* name_label;
+    const char* display;
+    const char* accept;
+    const char* timer;
+    const char* zero;
+  };
+
+  EquivalentsPage(Session& session, Form& form, const Names& names,
+                  std::function<void()> box_changed, std::function<void(int)> digit);
+
+  /// Fills the table from a list of strings and their equivalents.
+  void Load(const TextList& names, const TextList& equivalents);
+  void Unload() { DelayTimer.Disable(); }
+  void AddDigit(int digit);
+  /// Whether the user has the page's edit box before them.
+  bool IsEditing() const { return EditBox.IsVisible(); }
+
+  Box Frame;
+  Grid Table;
+
+ private:
+  void Table_Click();
+  void AcceptButton_Click();
+
+  const char* zero_;
+  std::function<void()> box_changed_;
+  Box EditBox;
+  Label NameLabel;
+  Label Display;
+  Button AcceptButton;
+  Timer DelayTimer;
+};
+
+class RenumberDialog {
+ public:
+  explicit RenumberDialog(Session& session);
+
+  Form& form() { return form_; }
+
+ private:
+  void EqtOption_Click();
+  void Form_Load();
+  void ShowPage(bool labels);
+  void NUM_Click(int index);
+  void ShowDigitKeys();
+  void DoneButton_Click();
+  void TakeLabels();
+  void TakeVariables();
+
+  Session& session_;
+  Form form_{"RenumberDialog"};
+  Option LabelsOption_{&form_, "LabelsOption", "&Labels"};
+  Option VariablesOption_{&form_, "VariablesOption", "&Variables"};
+  EquivalentsPage labels_;
+  EquivalentsPage variables_;
+  Box DigitBox_{&form_, "DigitBox"};
+  DigitKeys NUM_;
+  Button DoneButton_{&form_, "DoneButton", "Done"};
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_SYMBOLS_RENUMBER_DIALOG_H_

@@ -26,6 +26,8 @@
 #include "search/find_label.h"
 #include "search/replace_label.h"
 #include "search/variable_tools.h"
+#include "simulator/simulation_start.h"
+#include "simulator/watch_window_dialog.h"
 #include "symbols/address_assignment.h"
 #include "symbols/label_entry.h"
 #include "symbols/label_placement.h"
@@ -46,7 +48,7 @@ class ProgrammingPanel {
   Session& session() { return session_; }
   Form& form() { return session_.ProgrammingPanel; }
   /// The dialogs that belong to the panel, open or not.
-  std::vector<Form*> Dialogs() { return {&equivalents_.form()}; }
+  std::vector<Form*> Dialogs() { return {&equivalents_.form(), &watch_window_.form()}; }
 
  private:
   void Form_Load();
@@ -76,6 +78,10 @@ class ProgrammingPanel {
   VariableTools variable_tools_{session_, states_, variable_box_};
   RenumberDialog equivalents_{session_};
   AddressAssignment addresses_{session_, states_, rows_};
+  WatchWindowDialog watch_window_{
+      [this](const std::string& text) { session_.ShowInformation(text); }};
+  SimulationStart simulation_{session_, watch_window_,
+                              [this](bool report) { addresses_.Assign_Address(report); }};
   Assembler assembler_{session_, states_, addresses_, strings_};
   NewFileCommand new_file_{session_, states_, rows_, numbers_};
   ProjectFile project_{session_, states_, rows_, origins_, new_file_};

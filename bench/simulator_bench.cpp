@@ -70,7 +70,7 @@ void BM_SimulatorStep(benchmark::State& state) {
   WriteProgram(program, tables);
   Machine machine(tables, IgnoreBox);
   machine.StartAt(AddressText(kFirstAddress));
-  for (auto _ : state) machine.Execute();
+  while (state.KeepRunning()) machine.Execute();
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_SimulatorStep);
@@ -78,7 +78,7 @@ BENCHMARK(BM_SimulatorStep);
 // What a step cannot do without: three texts of two digits parsed, and formatted again.
 void BM_SimulatorBareTexts(benchmark::State& state) {
   std::array<std::string, 3> texts = {"3E", "05", "7F"};
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     for (std::string& text : texts) {
       benchmark::DoNotOptimize(text);
       text = PaddedHexText((HexValue(text) + 1) & 0xFF, kByteDigits);
@@ -92,7 +92,7 @@ BENCHMARK(BM_SimulatorBareTexts);
 void BM_SimulatorOpen(benchmark::State& state) {
   Grid program(nullptr, "Program", kProgramColumns);
   FillWithNops(program);
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     WatchWindowDialog dialog(IgnoreBox);
     dialog.Load();
     WriteProgram(program, dialog.tables());
@@ -109,7 +109,7 @@ std::size_t BytesInUse() {
 
 void BM_SimulatorMemory(benchmark::State& state) {
   double bytes = 0;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     const std::size_t before = BytesInUse();
     WatchWindowDialog dialog(IgnoreBox);
     dialog.Load();

@@ -26,7 +26,8 @@ TEST_P(ScenarioTest, GivesItsTranscript) {
   std::ostringstream transcript;
   std::ostringstream errors;
   EXPECT_EQ(RunScript(script, transcript, errors), kPlayed) << errors.str();
-  EXPECT_EQ(FirstDifference(scenario.transcript, transcript.str()), "");
+  const std::string difference = FirstDifference(scenario.transcript, transcript.str());
+  EXPECT_TRUE(difference.empty()) << difference;
 }
 
 std::string TestName(const testing::TestParamInfo<std::filesystem::path>& scenario) {

@@ -101,6 +101,8 @@ void Assembler::CutRecords() {
       if (in_block) writer.EndBlock();
       writer.BeginBlock(HexValue(TempTable_.TextMatrix(row, 0)));
       in_block = true;
+      // An origin has a row behind it, its first.
+      if (row == last_row) throw Failure(ErrorNumber::kOutsideTable);
     } else if (in_block && row != last_row && !TempTable_.TextMatrix(row, 0).empty()) {
       for (int byte = 0; byte < kMostBytes; ++byte) {
         const std::string& text = TempTable_.TextMatrix(row, byte);

@@ -30,7 +30,6 @@ class Assembler {
   void CutRecords();
   void AddChecksums();
   void Save();
-  void Abort(const std::string& text);
 
   Session& session_;
   StateMachine& states_;

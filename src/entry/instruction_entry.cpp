@@ -57,9 +57,8 @@ InstructionEntry::InstructionEntry(Session& session, StateMachine& states, Entry
         std::make_unique<Button>(&InstructionBox_, "INST", std::string(key.caption), index));
     INST_.back()->Click = [this, index] { INST_Click(index); };
     INST_.back()->MouseMove = [this, index] { INST_MouseMove(index); };
-    const std::string_view operands = key.hint.substr(key.caption.size());
     InstructionHints_.emplace_back(key.hint.substr(0, key.caption.size()),
-                                   operands.empty() ? " " : std::string(operands));
+                                   " " + std::string(key.hint.substr(key.caption.size())));
   }
   session_.ProgrammingPanel.MouseMove = [this] { Form_MouseMove(); };
   states_.SetStatus(BoxId::kInstruction, [this](bool status) { InstructionStatus(status); });

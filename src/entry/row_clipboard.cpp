@@ -137,7 +137,7 @@ void RowClipboard::PasteLabelOperand(int clip_row, int row, Positions& labels) {
     if (session_.LabelEqtList[found->second] == address) return;
     // The same name would stand for two addresses.
     const auto generated = [this] {
-      return kGeneratedLabel + std::to_string(session_.NextLabelNumber);
+      return std::string(kGeneratedLabel).append(std::to_string(session_.NextLabelNumber));
     };
     while (labels.contains(generated())) ++session_.NextLabelNumber;
     name = generated();

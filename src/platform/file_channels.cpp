@@ -1,5 +1,6 @@
 #include "platform/file_channels.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <limits>
 #include <utility>
@@ -12,32 +13,8 @@ namespace {
 
 constexpr char kQuote = '"';
 constexpr char kComma = ',';
-constexpr int kEndOfFile = std::char_traits<char>::eof();
-
-bool IsDelimiter(int c) { return c == kComma || c == '\r' || c == '\n'; }
-
-/// Takes one comma or line end, if it stands there.
-void SkipDelimiter(std::streambuf& buffer) {
-  const int c = buffer.sgetc();
-  if (!IsDelimiter(c)) return;
-  buffer.sbumpc();
-  if (c == '\r' && buffer.sgetc() == '\n') buffer.sbumpc();
-}
-
-std::string ReadItem(std::streambuf& buffer) {
-  if (buffer.sgetc() == kEndOfFile) throw Failure(ErrorNumber::kPastEndOfFile);
-  std::string item;
-  const bool quoted = buffer.sgetc() == kQuote;
-  if (quoted) buffer.sbumpc();
-  for (int c = buffer.sgetc(); c != kEndOfFile; c = buffer.sgetc()) {
-    if (quoted ? c == kQuote : IsDelimiter(c)) break;
-    item.push_back(static_cast<char>(c));
-    buffer.sbumpc();
-  }
-  if (quoted && buffer.sgetc() == kQuote) buffer.sbumpc();
-  SkipDelimiter(buffer);
-  return item;
-}
+constexpr std::string_view kDelimiters = ",\r\n";
+constexpr std::string_view kLineEnd = "\r\n";
 
 template <typename Number>
 Number Narrow(std::int64_t value) {
@@ -59,42 +36,93 @@ void FileChannels::OpenInput(int channel, const std::string& path) {
 
 void FileChannels::Open(int channel, const std::string& path, std::ios::openmode mode) {
   if (IsOpen(channel)) throw Failure(ErrorNumber::kChannelOpen);
-  const std::filesystem::path file(std::u8string(path.begin(), path.end()));
-  std::fstream stream(file, mode | std::ios::binary);
-  if (!stream.is_open()) throw Failure(ErrorNumber::kFileNotFound);
-  streams_.emplace(channel, std::move(stream));
+  File file;
+  if (file.open(std::filesystem::path(std::u8string(path.begin(), path.end())),
+                mode | std::ios::binary) == nullptr) {
+    throw Failure(ErrorNumber::kFileNotFound);
+  }
+  files_.emplace(channel, std::move(file));
 }
 
 void FileChannels::Close(int channel) {
-  const auto found = streams_.find(channel);
-  if (found == streams_.end()) return;
-  std::fstream stream = std::move(found->second);
-  streams_.erase(found);
-  stream.close();
-  if (!stream) throw Failure(ErrorNumber::kWriteFailed);
+  const auto found = files_.find(channel);
+  if (found == files_.end()) return;
+  File file = std::move(found->second);
+  files_.erase(found);
+  if (file.close() == nullptr) throw Failure(ErrorNumber::kWriteFailed);
 }
 
-std::fstream& FileChannels::Stream(int channel) {
-  const auto found = streams_.find(channel);
-  if (found == streams_.end()) throw Failure(ErrorNumber::kBadChannel);
+FileChannels::File& FileChannels::FileOn(int channel) {
+  const auto found = files_.find(channel);
+  if (found == files_.end()) throw Failure(ErrorNumber::kBadChannel);
   return found->second;
 }
 
-void FileChannels::WriteLine(int channel, std::initializer_list<FileItem> items) {
-  std::fstream& stream = Stream(channel);
-  const char* separator = "";
-  for (const FileItem& item : items) {
-    stream << separator << item.form();
-    separator = ",";
+void FileItem::AppendTo(std::string& line) const {
+  if (const auto* const number = std::get_if<std::int64_t>(&value_)) {
+    line += std::to_string(*number);
+  } else {
+    line += kQuote;
+    line += std::get<std::string_view>(value_);
+    line += kQuote;
   }
-  stream << "\r\n";
-  if (!stream) throw Failure(ErrorNumber::kWriteFailed);
+}
+
+void FileChannels::WriteLine(int channel, std::initializer_list<FileItem> items) {
+  File& file = FileOn(channel);
+  line_.clear();
+  for (const FileItem& item : items) {
+    if (!line_.empty()) line_ += kComma;
+    item.AppendTo(line_);
+  }
+  line_ += kLineEnd;
+  const auto length = static_cast<std::streamsize>(line_.size());
+  if (file.sputn(line_.data(), length) != length) throw Failure(ErrorNumber::kWriteFailed);
+}
+
+std::string_view FileChannels::File::Ahead() {
+  if (gptr() == egptr()) underflow();
+  return {gptr(), egptr()};
+}
+
+bool FileChannels::File::SkipIf(char c) {
+  const std::string_view ahead = Ahead();
+  if (ahead.empty() || ahead.front() != c) return false;
+  Skip(1);
+  return true;
+}
+
+template <typename Find>
+std::string FileChannels::File::TakeUntil(const Find& find) {
+  std::string taken;
+  for (std::string_view ahead = Ahead(); !ahead.empty(); ahead = Ahead()) {
+    const std::size_t end = std::min(find(ahead), ahead.size());
+    taken.append(ahead, 0, end);
+    Skip(end);
+    if (end < ahead.size()) break;
+  }
+  return taken;
+}
+
+std::string FileChannels::File::TakeItem() {
+  if (Ahead().empty()) throw Failure(ErrorNumber::kPastEndOfFile);
+  std::string item;
+  if (SkipIf(kQuote)) {
+    item = TakeUntil([](std::string_view ahead) { return ahead.find(kQuote); });
+    SkipIf(kQuote);
+  } else {
+    item = TakeUntil([](std::string_view ahead) { return ahead.find_first_of(kDelimiters); });
+  }
+  if (SkipIf(kComma)) return item;
+  SkipIf('\r');
+  SkipIf('\n');
+  return item;
 }
 
 std::string FileChannels::ReadText(int channel) {
-  std::streambuf& buffer = *Stream(channel).rdbuf();
+  File& file = FileOn(channel);
   try {
-    return ReadItem(buffer);
+    return file.TakeItem();
   } catch (const std::ios_base::failure&) {  // a folder, or a disk that does not read
     throw Failure(ErrorNumber::kReadFailed);
   }

@@ -9,19 +9,21 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace quilla {
 
-/// One item to be written.
+/// One item to be written: a number, or a text that must outlive the item.
 class FileItem {
  public:
-  static FileItem Text(std::string_view text) { return FileItem('"' + std::string(text) + '"'); }
-  static FileItem Number(std::int64_t number) { return FileItem(std::to_string(number)); }
-  const std::string& form() const { return form_; }
+  static FileItem Text(std::string_view text) { return FileItem(text); }
+  static FileItem Number(std::int64_t number) { return FileItem(number); }
+  /// Adds the item to a line in the form that it has in a file.
+  void AppendTo(std::string& line) const;
 
  private:
-  explicit FileItem(std::string form) : form_(std::move(form)) {}
-  std::string form_;
+  explicit FileItem(std::variant<std::string_view, std::int64_t> value) : value_(value) {}
+  std::variant<std::string_view, std::int64_t> value_;
 };
 
 class FileChannels {
@@ -35,8 +37,8 @@ class FileChannels {
   /// take all that was written; the channel is closed even then.
   void Close(int channel);
   /// Closes the channel whatever has become of the file; for clean-ups after a failure.
-  void Abandon(int channel) { streams_.erase(channel); }
-  bool IsOpen(int channel) const { return streams_.contains(channel); }
+  void Abandon(int channel) { files_.erase(channel); }
+  bool IsOpen(int channel) const { return files_.contains(channel); }
 
   /// Writes items on one line, with commas between them and CR LF behind.
   /// Fails with `kBadChannel` or `kWriteFailed`.
@@ -52,10 +54,27 @@ class FileChannels {
   std::int32_t ReadNumber32(int channel);
 
  private:
-  std::fstream& Stream(int channel);
+  /// A file whose next characters can be looked at before they are taken.
+  class File : public std::filebuf {
+   public:
+    /// The characters ahead, as many as are at hand; none at the end of the file only.
+    std::string_view Ahead();
+    /// Takes characters that have been seen ahead.
+    void Skip(std::size_t count) { gbump(static_cast<int>(count)); }
+    /// Takes the next character if it is this one.
+    bool SkipIf(char c);
+    /// Takes the characters before the one that `find` finds, or all up to the end of the file.
+    template <typename Find>
+    std::string TakeUntil(const Find& find);
+    /// Takes the next item with its quotes and its delimiter, and gives what it holds.
+    std::string TakeItem();
+  };
+
+  File& FileOn(int channel);
   void Open(int channel, const std::string& path, std::ios::openmode mode);
 
-  std::map<int, std::fstream> streams_;
+  std::map<int, File> files_;
+  std::string line_;  // being written
 };
 
 }  // namespace quilla

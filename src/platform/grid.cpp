@@ -1,7 +1,6 @@
 #include "platform/grid.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "platform/failure.h"
@@ -27,10 +26,9 @@ void Grid::InsertRows(int at, int count) {
   if (at < 0 || at > Rows() || count < 0) throw Failure(ErrorNumber::kOutsideTable);
   if (count > kMaxRows - Rows()) throw Failure(ErrorNumber::kGridMemory);
   if (count == 0) return;
-  std::vector<Cells> fresh(static_cast<std::size_t>(count));
-  for (Cells& cells : fresh) cells = std::make_unique<Cell[]>(static_cast<std::size_t>(columns_));
-  rows_.insert(rows_.begin() + at, std::make_move_iterator(fresh.begin()),
-               std::make_move_iterator(fresh.end()));
+  cells_.insert(StartOf(at), static_cast<std::size_t>(count) * static_cast<std::size_t>(columns_),
+                Cell{});
+  rows_ += count;
   if (grid_observer != nullptr) grid_observer->RowsInserted(at, count);
 }
 
@@ -41,13 +39,14 @@ void Grid::AddItem(std::string text) {
 
 void Grid::RemoveRows(int first, int last) {
   if (first < 0 || last >= Rows() || first > last) throw Failure(ErrorNumber::kOutsideTable);
-  rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
+  cells_.erase(StartOf(first), StartOf(last + 1));
+  rows_ -= last - first + 1;
   KeepCurrentCellInside();
   if (grid_observer != nullptr) grid_observer->RowsRemoved(first, last - first + 1);
 }
 
 void Grid::Clear() {
-  for (const Cells& cells : rows_) std::fill_n(cells.get(), columns_, Cell{});
+  std::fill(cells_.begin(), cells_.end(), Cell{});
   if (grid_observer != nullptr && Rows() > 0) grid_observer->RowsChanged(0, Rows() - 1);
 }
 
@@ -55,7 +54,8 @@ const Grid::Cell& Grid::CellAt(int row, int column) const {
   if (row < 0 || row >= Rows() || column < 0 || column >= columns_) {
     throw Failure(ErrorNumber::kOutsideTable);
   }
-  return rows_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+  return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                static_cast<std::size_t>(column)];
 }
 
 void Grid::SetTextMatrix(int row, int column, std::string text) {

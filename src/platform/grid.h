@@ -5,9 +5,9 @@
 
 #include <array>
 #include <compare>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -57,7 +57,7 @@ class Grid : public Control {
   Grid(Control* container, std::string name, int columns);
   ~Grid() override;
 
-  int Rows() const { return static_cast<int>(rows_.size()); }
+  int Rows() const { return rows_; }
   int Cols() const { return columns_; }
   /// Adds empty rows at the end, or removes rows there. Fails with `kGridMemory` beyond kMaxRows
   /// and with `kOutsideTable` below 0.
@@ -134,11 +134,13 @@ class Grid : public Control {
     CellColor back;
     CellColor fore;
   };
-  using Cells = std::unique_ptr<Cell[]>;
 
   const Cell& CellAt(int row, int column) const;
   Cell& CellAt(int row, int column) {
     return const_cast<Cell&>(static_cast<const Grid*>(this)->CellAt(row, column));
+  }
+  std::vector<Cell>::iterator StartOf(int row) {
+    return cells_.begin() + static_cast<std::ptrdiff_t>(row) * columns_;
   }
   void MoveTo(int row, int column);
   void KeepCurrentCellInside();
@@ -147,7 +149,8 @@ class Grid : public Control {
   }
 
   int columns_;
-  std::vector<Cells> rows_;
+  int rows_ = 0;
+  std::vector<Cell> cells_;  // row by row
   int row_ = 0;
   int column_ = 0;
   int row_sel_ = 0;

@@ -5,7 +5,10 @@
 namespace quilla {
 
 void EventLoop::Show(Form& form) {
-  if (form.visible()) return;
+  if (form.visible()) {
+    RaiseWindow(form);
+    return;
+  }
   form.set_visible(true);
   OpenWindow(form);
 }

@@ -14,7 +14,7 @@ class EventLoop {
  public:
   virtual ~EventLoop() = default;
 
-  /// Shows a window; the caller goes on.
+  /// Shows a window, or brings one that is shown to the front; the caller goes on.
   void Show(Form& form);
   /// Shows a window and waits until it is closed; the windows behind it take no input meanwhile.
   void ShowModal(Form& form);
@@ -30,6 +30,8 @@ class EventLoop {
 
  protected:
   virtual void OpenWindow(Form& form) = 0;
+  /// Brings a window that is shown to the front.
+  virtual void RaiseWindow(Form& form) = 0;
   virtual void CloseWindow(Form& form) = 0;
   /// Handles events until the form is out of sight.
   virtual void WaitUntilClosed(Form& form) = 0;

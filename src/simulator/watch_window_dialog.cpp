@@ -12,7 +12,7 @@ constexpr const char* kLowLevel = "0";
 constexpr const char* kHighLevel = "1";
 constexpr const char* kFirstAddress = "0000";
 
-constexpr const char* kNoAddressYet = "Enter a starting address first.";
+constexpr const char* kNoInstruction = "Enter a starting address and press OK.";
 constexpr const char* kStepFailed = "This instruction could not be carried out.";
 constexpr const char* kAddressFailed = "The instruction at this address could not be read.";
 
@@ -76,7 +76,7 @@ void WatchWindowDialog::Form_Unload() {
 void WatchWindowDialog::ExecuteButton_Click() {
   if (machine_.Halted) return;
   const bool has_instruction = !tables_.OpcodeText().empty();
-  Attempt([this] { machine_.Execute(); }, has_instruction ? kStepFailed : kNoAddressYet);
+  Attempt([this] { machine_.Execute(); }, has_instruction ? kStepFailed : kNoInstruction);
 }
 
 void WatchWindowDialog::AcceptButton_Click() {

@@ -16,7 +16,7 @@ std::unordered_set<std::string_view> OperandsOfLength(const Session& session, st
   std::unordered_set<std::string_view> operands;
   for (int row = 1; row < session.Table1.Rows(); ++row) {
     const std::string& operand = session.OperandOf(row);
-    if (!operand.empty() && session.Table1.TextMatrix(row, kOpcodeColumn).size() == length) {
+    if (session.Table1.TextMatrix(row, kOpcodeColumn).size() == length) {
       operands.insert(operand);
     }
   }
@@ -28,7 +28,7 @@ std::unordered_map<std::string_view, int> PlacesOfLabels(const Session& session)
   std::unordered_map<std::string_view, int> places;
   for (int row = 1; row < session.Table1.Rows(); ++row) {
     const std::string& label = session.Table1.TextMatrix(row, kLabelColumn);
-    if (!label.empty()) places.emplace(label, row);
+    places.try_emplace(label, row);
   }
   return places;
 }

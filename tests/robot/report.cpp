@@ -66,8 +66,7 @@ void PrintControl(std::ostream& transcript, const std::string& name, const Contr
   const auto* const option = dynamic_cast<const Option*>(&control);
   transcript << name;
   if (control.index() != Control::kNoIndex) transcript << ' ' << control.index();
-  if (menu_entry != nullptr || option != nullptr ||
-      dynamic_cast<const Button*>(&control) != nullptr ||
+  if (menu_entry != nullptr || dynamic_cast<const Button*>(&control) != nullptr ||
       dynamic_cast<const Label*>(&control) != nullptr) {
     transcript << " caption=" << Quoted(control.caption());
   }

@@ -55,7 +55,9 @@ TEST(RobotTest, StopsAtTheFirstLineThatIsNoCommand) {
     std::ostringstream transcript;
     std::ostringstream errors;
     EXPECT_EQ(RunScript(script, transcript, errors), kNoCommand) << line;
-    EXPECT_EQ(transcript.str(), kStart + "> escape\n> " + line + "\n");
+    std::string echo = "> escape\n> ";
+    echo.append(line).append("\n");
+    EXPECT_EQ(transcript.str(), kStart + echo);
     EXPECT_TRUE(errors.str().starts_with("line 4: ")) << errors.str();
     EXPECT_EQ(errors.str().find('\n'), errors.str().size() - 1) << errors.str();
   }

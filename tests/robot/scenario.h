@@ -32,6 +32,8 @@ class ScratchFolder {
   explicit ScratchFolder(const std::filesystem::path& files);
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
+  ScratchFolder(ScratchFolder&&) = delete;
+  ScratchFolder& operator=(ScratchFolder&&) = delete;
   ~ScratchFolder();
 
   const std::filesystem::path& path() const { return path_; }

@@ -39,6 +39,7 @@ class ScriptedEventLoop : public EventLoop {
 
  protected:
   void OpenWindow(Form& form) override;
+  void RaiseWindow(Form& form) override { Use(form); }
   void CloseWindow(Form& form) override;
   void WaitUntilClosed(Form& form) override;
 

@@ -71,9 +71,9 @@ refused XXCombo outside
 > show XXCombo
 XXCombo text="x" index=0 count=1 enabled=1 visible=1
 > show ExistingXXOption
-ExistingXXOption caption="Existing:" checked=1 enabled=1 visible=1
+ExistingXXOption checked=1 enabled=1 visible=1
 > show NewXXOption
-NewXXOption caption="New:" checked=0 enabled=1 visible=1
+NewXXOption checked=0 enabled=1 visible=1
 > show XXBox
 XXBox enabled=1 visible=1
 > show EntryMode

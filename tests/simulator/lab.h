@@ -27,7 +27,24 @@ inline std::vector<std::string> SplitWords(const std::string& text) {
 
 class Lab {
  public:
-  Lab() { tables.Load(); }
+  Lab() {
+    tables.Load();
+    for (int row = 0; row < tables.RegisterTable.Rows(); ++row) {
+      start_registers_.push_back(tables.RegText(row));
+    }
+  }
+
+  /// Takes registers, memory and machine back to the start, which is quicker than a new lab.
+  void Restart() {
+    int row = 0;
+    for (const std::string& text : start_registers_) tables.SetReg(row++, text);
+    tables.SetMemRow(0, "Value");
+    for (int address = 0; address < kAddressSpace; ++address) {
+      if (tables.MemText(address) != "00") tables.SetMem(address, "00");
+    }
+    machine.Reset();
+    boxes.clear();
+  }
 
   /// Writes the cells that the words name, nothing else.
   void Set(const std::string& words) {
@@ -79,6 +96,7 @@ class Lab {
     return tables.InstructionTable.TextMatrix(kInstructionRow, column);
   }
 
+  // Reading a cell by its name finds it as writing does.
   mutable WatchTables tables{nullptr};
   std::vector<std::string> boxes;
   Machine machine{tables, [this](const std::string& text) { boxes.push_back(text); }};
@@ -103,6 +121,8 @@ class Lab {
     }
     return {&tables.RegisterTable, kRows.at(name)};
   }
+
+  std::vector<std::string> start_registers_;
 };
 
 }  // namespace quilla

@@ -113,8 +113,9 @@ TEST(DisassembleTest, ShowsTheInstruction) {
       {"FFFF", "[FFFF]=76", "|FFFF|HLT|76", 1},
       {"FFFD", "[FFFD]=CD", "|FFFD|CALL  0000h|CD   00   00", 3},
   };
+  Lab lab;
   for (const auto& [address, cells, view, length] : cases) {
-    Lab lab;
+    lab.Restart();
     lab.Set(cells);
     lab.machine.StartAt(address);
     EXPECT_EQ(RowText(lab.tables.InstructionTable, kInstructionRow), view);
@@ -128,8 +129,9 @@ TEST(DisassembleTest, WarnsOfAnInvalidInstructionEachTime) {
   const std::string warning =
       "This is an invalid instruction. However, the processor will execute this instruction as a "
       "NOP instruction.";
+  Lab lab;
   for (const char* op : {"08", "10", "18", "28", "38", "CB", "D9", "DD", "ED", "FD"}) {
-    Lab lab;
+    lab.Restart();
     lab.Set(std::string("[0001]=") + op);
     lab.machine.StartAt("0000");
     EXPECT_TRUE(lab.Step());

@@ -29,7 +29,7 @@ class WatchWindowDialogTest : public testing::Test {
 };
 
 TEST_F(WatchWindowDialogTest, ANoteStandsUntilTheNextStepOrAddress) {
-  const std::string no_address = "Enter a starting address first.";
+  const std::string no_address = "Enter a starting address and press OK.";
   const std::string failed = "This instruction could not be carried out.";
   const std::string unreadable = "The instruction at this address could not be read.";
   EXPECT_EQ(Caption("StepNoteLabel"), "");

@@ -1,0 +1,110 @@
+// The procedures of the panel on whole programs: addresses, labels, lines, the assembler's stages,
+// and the entry of one instruction.
+#include <benchmark/benchmark.h>
+
+#include <ostream>
+
+#include "assembler/assembler.h"
+#include "isa/instruction_set.h"
+#include "panel_fixture.h"
+#include "symbols/origins.h"
+
+namespace quilla::bench {
+namespace {
+
+void Nothing() {}
+
+/// The session with the parts that have the procedures, joined as the panel joins them.
+struct Parts {
+  explicit Parts(int row_count) { FillProgram(session, row_count); }
+
+  std::ostream transcript{nullptr};
+  robot::ScriptedOutside outside{transcript};
+  Session session{outside.ports};
+  Rows rows{session};
+  StateMachine states{session};
+  Origins origins{session, states, rows};
+  StringLists strings{session, states};
+  AddressAssignment addresses{session, states, rows};
+  Assembler assembler{session, states, addresses, strings};
+};
+
+int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(0)); }
+
+void BM_AssignAddress(benchmark::State& state) {
+  Parts parts(RowsOf(state));
+  Run(state, {PassOver(parts.session.Table1)}, Nothing,
+      [&] { parts.addresses.Assign_Address(true); });
+}
+BENCHMARK(BM_AssignAddress)->Apply(OverTableSizes);
+
+void BM_UpdateLabels(benchmark::State& state) {
+  Parts parts(RowsOf(state));
+  Run(state, {PassOver(parts.session.Table1)}, Nothing, [&] { parts.strings.UpdateLabels(); });
+}
+BENCHMARK(BM_UpdateLabels)->Apply(OverTableSizes);
+
+// One string in eight is unused.
+void BM_DeleteUnusedLabels(benchmark::State& state) {
+  Parts parts(RowsOf(state));
+  Session& session = parts.session;
+  const int unused_labels = session.LabelCombo.Count() / 8;
+  const int unused_variables = session.XXCombo.Count() / 8;
+  Run(
+      state, {PassOver(session.Table1)},
+      [&] {
+        for (int i = 0; i < unused_labels; ++i) {
+          session.AddLabel({.name = NumberedName('u', i),
+                            .placed = kNoFlag,
+                            .used = kNoFlag,
+                            .line = kNoFlag,
+                            .equivalent = kUnknownAddress});
+        }
+        for (int i = 0; i < unused_variables; ++i) {
+          session.XXCombo.Add(NumberedName('w', i));
+          session.XXEqtList.Add(kUnknownByte);
+        }
+      },
+      [&] { parts.strings.DeleteUnusedLabels_Click(); });
+}
+BENCHMARK(BM_DeleteUnusedLabels)->Apply(OverTableSizes);
+
+void BM_InsertLine(benchmark::State& state) {
+  Parts parts(RowsOf(state));
+  Session& session = parts.session;
+  const int row_count = session.Table1.Rows();
+  Run(
+      state, {PassOver(session.Table1)}, [&] { parts.rows.SetRows(row_count); },
+      [&] { parts.rows.InsertLine(1, 1); });
+}
+BENCHMARK(BM_InsertLine)->Apply(OverTableSizes);
+
+void BM_Assemble(benchmark::State& state) {
+  Parts parts(RowsOf(state));
+  parts.addresses.Assign_Address(true);
+  Run(state, {PassOver(parts.session.Table1)}, Nothing, [&] { parts.assembler.Assemble(); });
+}
+BENCHMARK(BM_Assemble)->Apply(OverTableSizes);
+
+// A jump to a label that is known, entered by its keys in the middle of the table.
+void BM_EnterInstruction(benchmark::State& state) {
+  PanelFixture panel(RowsOf(state));
+  Session& session = panel.session();
+  auto& jump_key = panel.Find("INST", FindInstructionKey("JMP"));
+  auto& known = panel.Find<Option>("ExistingLabelOption");
+  auto& accept = panel.Find("LabelAcceptButton");
+  const int row = session.Table1.Rows() / 2 + 2;
+  Run(
+      state, {PassOver(session.Table1)},
+      [&] { panel.ClickCell(session.Table1, row, kMnemonicColumn); },
+      [&] {
+        panel.Click(jump_key);
+        panel.Click(known);
+        session.LabelCombo.Pick(session.LabelCombo.Count() - 1);
+        panel.Click(accept);
+      });
+}
+BENCHMARK(BM_EnterInstruction)->Apply(OverTableSizes);
+
+}  // namespace
+}  // namespace quilla::bench

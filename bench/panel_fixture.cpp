@@ -1,0 +1,167 @@
+#include "panel_fixture.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <ctime>
+#include <limits>
+#include <string>
+
+#include "entry/default_comment.h"
+#include "isa/instruction_set.h"
+#include "platform/number_text.h"
+#include "program/opcode_cell.h"
+#include "program/rows.h"
+
+namespace quilla::bench {
+namespace {
+
+constexpr int kFirstAddress = 0x1000;  // the least that the assembler gives a record for
+constexpr int kRowsPerBlock = 1024;
+constexpr int kBytesPerGroup = 15;
+constexpr int kGroupsPerVariable = 4;
+constexpr int kLabelStride = 37;  // from the target of a jump to that of the next
+constexpr int kByteValues = 256;
+
+constexpr int kEmptyRow = -1;
+constexpr int kMviA = 0x3E;
+constexpr int kJmp = 0xC3;
+/// The opcodes of a group, its labels, and the rows that they stand in.
+constexpr int kGroup[kRowsPerGroup] = {kEmptyRow, kMviA, 0x47,      0x23, 0x80, kEmptyRow,
+                                       0x0D,      0xB7,  kEmptyRow, 0x7E, 0x13, 0x86,
+                                       kEmptyRow, kJmp,  0xEB,      0x0F};
+constexpr int kLabelRows[kLabelsPerGroup] = {1, 9};
+
+std::string LabelName(int number) { return NumberedName('l', number); }
+std::string VariableName(int number) { return NumberedName('v', number); }
+
+void WriteOrigin(Session& session, int row) {
+  const int groups = row / kRowsPerGroup;
+  session.Table1.SetTextMatrix(row, kLabelColumn, kOrigin);
+  session.Table1.SetTextMatrix(row, kAddressColumn,
+                               AddressText(kFirstAddress + groups * kBytesPerGroup));
+}
+
+void WriteInstruction(Session& session, int row, int opcode, const std::string& operand,
+                      const std::string& cell) {
+  std::string mnemonic(MnemonicsLUTList(opcode));
+  if (!operand.empty()) mnemonic.append("  ").append(operand);
+  session.Table1.SetTextMatrix(row, kMnemonicColumn, mnemonic);
+  session.Table1.SetTextMatrix(row, kOpcodeColumn, cell);
+  session.StringTable.SetTextMatrix(row, 0, operand);
+  ApplyDefaultComment(session, row);
+}
+
+void WriteGroup(Session& session, int group, int labels) {
+  const int first_row = group * kRowsPerGroup;
+  if (first_row % kRowsPerBlock == 0) WriteOrigin(session, first_row);
+  for (int i = 0; i < kRowsPerGroup; ++i) {
+    const std::string cell = kGroup[i] == kEmptyRow ? std::string() : OpcodeCell(kGroup[i]);
+    if (kGroup[i] == kMviA) {
+      const int variable = group / kGroupsPerVariable;
+      WriteInstruction(session, first_row + i, kMviA, VariableName(variable),
+                       WithVariable(cell, PaddedHexText(variable % kByteValues, kByteDigits)));
+    } else if (kGroup[i] == kJmp) {
+      WriteInstruction(session, first_row + i, kJmp, LabelName(group * kLabelStride % labels),
+                       WithLabel(cell, kUnknownAddress));
+    } else if (kGroup[i] != kEmptyRow) {
+      WriteInstruction(session, first_row + i, kGroup[i], {}, cell);
+    }
+  }
+  for (int i = 0; i < kLabelsPerGroup; ++i) {
+    session.Table1.SetTextMatrix(first_row + kLabelRows[i], kLabelColumn,
+                                 LabelName(group * kLabelsPerGroup + i));
+  }
+}
+
+/// Time of the processor: what other programs take of it meanwhile does not count.
+double SecondsOf(const std::function<void()>& work) {
+  const std::clock_t start = std::clock();
+  work();
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+}  // namespace
+
+std::string NumberedName(char letter, int number) {
+  return std::string(1, letter).append(std::to_string(number));
+}
+
+void FillProgram(Session& session, int rows) {
+  session.Table1.SetRows(rows);
+  session.StringTable.SetRows(rows);
+  const int groups = rows / kRowsPerGroup;
+  const int labels = groups * kLabelsPerGroup;
+  for (int group = 0; group < groups; ++group) WriteGroup(session, group, labels);
+  for (int i = 0; i < labels; ++i) {
+    session.AddLabel({.name = LabelName(i),
+                      .placed = kNoFlag,
+                      .used = kNoFlag,
+                      .line = kNoFlag,
+                      .equivalent = kUnknownAddress});
+  }
+  for (int i = 0; i < groups; i += kGroupsPerVariable) {
+    const int variable = i / kGroupsPerVariable;
+    session.XXCombo.Add(VariableName(variable));
+    session.XXEqtList.Add(PaddedHexText(variable % kByteValues, kByteDigits));
+  }
+  session.LastLine = rows - 1;
+}
+
+PanelFixture::PanelFixture(int rows) {
+  outside_.event_loop.Show(panel_.form());
+  FillProgram(session(), rows);
+  AssignAddresses();
+}
+
+void PanelFixture::AssignAddresses() {
+  Click(session().menu.AssignAddress);
+  outside_.clock.PassAll();
+}
+
+Control* PanelFixture::FindControl(std::string_view name, int index) {
+  if (Control* const control = panel_.form().Find(name, index)) return control;
+  for (Form* const dialog : panel_.Dialogs()) {
+    if (Control* const control = dialog->Find(name, index)) return control;
+  }
+  return nullptr;
+}
+
+Measure PassOver(const Grid& table) {
+  const auto pass = [&table] {
+    std::size_t sum = 0;
+    for (int row = 0; row < table.Rows(); ++row) {
+      for (int column = 0; column < table.Cols(); ++column) {
+        for (const char c : table.TextMatrix(row, column)) sum += static_cast<unsigned char>(c);
+      }
+    }
+    benchmark::DoNotOptimize(sum);
+  };
+  return {"x_pass", pass, kMostPasses};
+}
+
+void Run(benchmark::State& state, const std::vector<Measure>& measures,
+         const std::function<void()>& prepare, const std::function<void()>& task) {
+  double least = std::numeric_limits<double>::infinity();
+  std::vector<double> units(measures.size(), least);
+  while (state.KeepRunning()) {
+    prepare();
+    const double seconds = SecondsOf(task);
+    state.SetIterationTime(seconds);
+    least = std::min(least, seconds);
+    for (std::size_t i = 0; i < measures.size(); ++i) {
+      units[i] = std::min(units[i], SecondsOf(measures[i].work));
+    }
+  }
+  for (std::size_t i = 0; i < measures.size(); ++i) {
+    state.counters[measures[i].counter] = least / units[i];
+    if (least > measures[i].most * units[i]) state.SetLabel("OVER THE LIMIT");
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void OverTableSizes(benchmark::internal::Benchmark* benchmark) {
+  for (const int rows : {1024, 8192, 65536}) benchmark->Arg(rows);
+  benchmark->UseManualTime()->Complexity(benchmark::oN)->Unit(benchmark::kMicrosecond);
+}
+
+}  // namespace quilla::bench

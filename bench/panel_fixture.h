@@ -1,0 +1,89 @@
+// A panel with a full program in its table, played without a window, and the measuring of a task
+// on it beside the plainest work on the same data.
+#ifndef QUILLA_BENCH_PANEL_FIXTURE_H_
+#define QUILLA_BENCH_PANEL_FIXTURE_H_
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "panel/programming_panel.h"
+#include "program/session.h"
+#include "robot/model_hands.h"
+#include "robot/scripted_outside.h"
+
+namespace quilla::bench {
+
+/// The most that a task may cost: passes over the table for any of them, and plain transfers of
+/// the same bytes for those that read or write a file.
+inline constexpr double kMostPasses = 10;
+inline constexpr double kMostTransfers = 5;
+
+/// Every sixteenth row has a jump, and every eighth a label.
+inline constexpr int kRowsPerGroup = 16;
+inline constexpr int kLabelsPerGroup = 2;
+
+/// A name for a string: a letter and a number.
+std::string NumberedName(char letter, int number);
+
+/// Fills the empty table of a session with a program of `rows` rows, a multiple of kRowsPerGroup
+/// up to 65,536. A group of sixteen rows has two placed labels, a jump to a label, an instruction
+/// with a variable, ten of one byte and four empty rows, so that the greatest program takes all
+/// addresses from 1000h to FFFFh. Blocks are 1024 rows long.
+void FillProgram(Session& session, int rows);
+
+/// The program in a panel of its own, and the hands to work on it.
+class PanelFixture {
+ public:
+  explicit PanelFixture(int rows);
+
+  Session& session() { return panel_.session(); }
+  robot::ScriptedOutside& outside() { return outside_; }
+
+  /// A control of a form of the panel. It must be there.
+  template <typename Model = Button>
+  Model& Find(std::string_view name, int index = Control::kNoIndex) {
+    return dynamic_cast<Model&>(*FindControl(name, index));
+  }
+  void Click(Control& control) { hands_.Click(control); }
+  void ClickCell(Grid& grid, int row, int column) {
+    hands_.Drag(grid, {row, column}, {row, column});
+  }
+  /// Assigns all addresses, as the menu command does.
+  void AssignAddresses();
+
+ private:
+  Control* FindControl(std::string_view name, int index);
+
+  std::ostream transcript_{nullptr};
+  robot::ScriptedOutside outside_{transcript_};
+  ProgrammingPanel panel_{outside_.ports};
+  robot::ModelHands hands_{outside_.event_loop};
+};
+
+/// Plain work that a task is held against: its least time is the unit, `most` of it the limit.
+struct Measure {
+  const char* counter;
+  std::function<void()> work;
+  double most;
+};
+
+/// The pass over a table that reads every character of every cell.
+Measure PassOver(const Grid& table);
+
+/// Times `task`, each time after an untimed `prepare`, and each measure beside it. The counter of
+/// a measure is the least time of the task in units of the least time of the measure; a label
+/// tells where it is over the limit.
+void Run(benchmark::State& state, const std::vector<Measure>& measures,
+         const std::function<void()>& prepare, const std::function<void()>& task);
+
+/// The tables that are measured, and the linear growth that is fitted to their times.
+void OverTableSizes(benchmark::internal::Benchmark* benchmark);
+
+}  // namespace quilla::bench
+
+#endif  // QUILLA_BENCH_PANEL_FIXTURE_H_

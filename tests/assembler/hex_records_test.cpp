@@ -1,0 +1,89 @@
+#include "assembler/hex_records.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/failure_of.h"
+#include "platform/number_text.h"
+
+#if defined(__unix__) && GTEST_HAS_DEATH_TEST
+#include <unistd.h>
+
+#include <csignal>
+#endif
+
+namespace quilla {
+namespace {
+
+TEST(HexRecordsTest, AddressAndTypeShareFourDigitsBelow0100) {
+  const struct {
+    std::int64_t address;
+    std::string_view head;
+  } cases[] = {{0x0000, "0000"}, {0x0001, "0100"},   {0x000F, "0F00"},   {0x0010, "1000"},
+               {0x00FF, "FF00"}, {0x1000, "100000"}, {0xFFFF, "FFFF00"}, {0x10000, "1000000"}};
+  for (const auto& [address, head] : cases) EXPECT_EQ(RecordHead(address), head);
+}
+
+#if defined(__unix__) && GTEST_HAS_DEATH_TEST
+TEST(HexRecordsDeathTest, From0100To0FFFThePaddingNeverEnds) {
+  for (const std::int64_t address : {0x0100, 0x0FFF}) {
+    EXPECT_EXIT(
+        {
+          alarm(1);
+          RecordHead(address);
+        },
+        testing::KilledBySignal(SIGALRM), "");
+  }
+}
+#endif
+
+TEST(HexRecordsTest, ChecksumHasThreeDigitsWhereTheSumIsRound) {
+  const struct {
+    std::string_view record;
+    std::string_view checksum;
+  } cases[] = {
+      {":0180000000", "7F"},   {":018000007F", "100"},  // 81, 100
+      {":01800000FF", "80"},   {":01FFFF00F2", "0F"},   // 180, 2F1
+      {":01FFFF0001", "100"},  {":", "100"},            // 200, nothing
+      {":01C00001", "3E"},     {":011000000AB", "E5"},  // C2; the odd digit at the end is left out
+      {":02ffee00aabb", "AC"},                          // 254
+  };
+  for (const auto& [record, checksum] : cases) EXPECT_EQ(Checksum(record), checksum) << record;
+  EXPECT_EQ(FailureOf([] { Checksum(":018000000X"); }), ErrorNumber::kNotANumber);
+  EXPECT_EQ(FailureOf([] { Checksum(":018000003E   0F"); }), ErrorNumber::kNotANumber);
+}
+
+TEST(HexRecordsTest, BlocksAreCutAfterSixteenBytes) {
+  const std::string sixteen = "000102030405060708090A0B0C0D0E0F";
+  const struct {
+    std::int64_t address;
+    int bytes;
+    std::vector<std::string> records;
+  } cases[] = {
+      {0x8000, 0, {}},
+      {0x8000, 1, {":0180000000"}},
+      {0x8000, 15, {":0F800000" + sixteen.substr(0, 30)}},
+      {0x8000, 16, {":10800000" + sixteen}},
+      {0x8000, 17, {":10800000" + sixteen, ":0180100010"}},
+      {0x8FF8,
+       33,
+       {":108FF800" + sixteen, ":10900800101112131415161718191A1B1C1D1E1F", ":0190180020"}},
+      {0x0000, 17, {":100000" + sixteen, ":01100010"}},
+      {0xFFF0, 17, {":10FFF000" + sixteen, ":01100000010"}},
+  };
+  for (const auto& [address, bytes, expected] : cases) {
+    TextList records(nullptr, "Records");
+    RecordWriter writer(records);
+    writer.BeginBlock(address);
+    for (int byte = 0; byte < bytes; ++byte) writer.AddByte(PaddedHexText(byte, kByteDigits));
+    writer.EndBlock();
+    EXPECT_EQ(records.items(), expected) << bytes << " bytes at " << HexText(address);
+  }
+}
+
+}  // namespace
+}  // namespace quilla

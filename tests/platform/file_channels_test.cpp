@@ -1,0 +1,172 @@
+#include "platform/file_channels.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "platform/failure_of.h"
+#include "robot/scenario.h"
+
+namespace quilla {
+namespace {
+
+constexpr int kChannel = 1;
+
+class FileChannelsTest : public testing::Test {
+ protected:
+  static void Write(const std::string& content) {
+    std::ofstream("file", std::ios::binary) << content;
+  }
+  static std::string Content(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  /// All items of a file of this content.
+  std::vector<std::string> Items(const std::string& content) {
+    Write(content);
+    channels_.OpenInput(kChannel, "file");
+    std::vector<std::string> items;
+    while (FailureOf([&] { items.push_back(channels_.ReadText(kChannel)); }) !=
+           ErrorNumber::kPastEndOfFile) {
+    }
+    channels_.Close(kChannel);
+    return items;
+  }
+
+  robot::ScratchFolder folder_{"no files"};
+  FileChannels channels_;
+};
+
+TEST_F(FileChannelsTest, ItemsEndWhereTheirFormSays) {
+  const struct {
+    std::string content;
+    std::vector<std::string> items;
+  } cases[] = {
+      {"", {}},
+      {"\r\n", {""}},
+      {",", {""}},
+      {"a", {"a"}},
+      {"a,b\r\nc\rd\ne", {"a", "b", "c", "d", "e"}},
+      {"a\r\n\r\nb\n\rc", {"a", "", "b", "", "c"}},
+      {"a,,b", {"a", "", "b"}},
+      {" a , \t b ", {" a ", " \t b "}},
+      {"\"a,b\r\nc\",\"\"\r\n\"d\"", {"a,b\r\nc", "", "d"}},
+      {R"("a"b,"c""d")", {"a", "b", "c", "d"}},
+      {R"(a"b"c)", {R"(a"b"c)"}},
+      {R"("a" ,b)", {"a", " ", "b"}},
+      {"\"never closed,\r\n1", {"never closed,\r\n1"}},
+      {"\"", {""}},
+      {std::string("z\0\xFF\x1A,y", 6), {std::string("z\0\xFF\x1A", 4), "y"}},
+      {std::string(100'000, 'x') + "\r\n\"" + std::string(100'000, ',') + "\"\r\n",
+       {std::string(100'000, 'x'), std::string(100'000, ',')}},
+  };
+  for (const auto& [content, items] : cases) {
+    EXPECT_EQ(Items(content), items) << content.substr(0, 40);
+  }
+}
+
+TEST_F(FileChannelsTest, LineEndsAreOneDelimiterWhereverBuffersEnd) {
+  for (std::size_t length = 4090; length < 4100; ++length) {
+    for (const std::size_t whole : {length, length + 4096}) {
+      const std::string item(whole, 'x');
+      std::string content = item;
+      content.append("\r\n\"").append(item).append("\"\r\n1");
+      EXPECT_EQ(Items(content), (std::vector<std::string>{item, item, "1"}));
+    }
+  }
+}
+
+TEST_F(FileChannelsTest, NumbersFitTheirWidth) {
+  const struct {
+    std::string text;
+    std::optional<ErrorNumber> in16;
+    std::optional<ErrorNumber> in32;
+  } cases[] = {
+      {"32767", {}, {}},
+      {"-32768", {}, {}},
+      {"\"12\"", {}, {}},
+      {"32768", ErrorNumber::kOverflow, {}},
+      {"-2147483648", ErrorNumber::kOverflow, {}},
+      {"2147483648", ErrorNumber::kOverflow, ErrorNumber::kOverflow},
+      {"99999999999999999999", ErrorNumber::kOverflow, ErrorNumber::kOverflow},
+      {" 1", ErrorNumber::kNotANumber, ErrorNumber::kNotANumber},
+      {"1A", ErrorNumber::kNotANumber, ErrorNumber::kNotANumber},
+      {"\"\"", ErrorNumber::kNotANumber, ErrorNumber::kNotANumber},
+  };
+  for (const auto& [text, in16, in32] : cases) {
+    Write(std::string(text).append(",").append(text));
+    channels_.OpenInput(kChannel, "file");
+    EXPECT_EQ(FailureOf([&] { channels_.ReadNumber16(kChannel); }), in16) << text;
+    EXPECT_EQ(FailureOf([&] { channels_.ReadNumber32(kChannel); }), in32) << text;
+    EXPECT_EQ(FailureOf([&] { channels_.ReadNumber32(kChannel); }), ErrorNumber::kPastEndOfFile);
+    channels_.Close(kChannel);
+  }
+}
+
+TEST_F(FileChannelsTest, ChannelsAreOpenOnceAndForOneUse) {
+  Write("1");
+  channels_.OpenInput(kChannel, "file");
+  EXPECT_EQ(FailureOf([&] { channels_.OpenInput(kChannel, "file"); }), ErrorNumber::kChannelOpen);
+  EXPECT_EQ(FailureOf([&] { channels_.OpenOutput(kChannel, "new"); }), ErrorNumber::kChannelOpen);
+  EXPECT_FALSE(std::filesystem::exists("new"));
+  EXPECT_EQ(channels_.ReadNumber16(kChannel), 1) << "the file that was open";
+  channels_.OpenOutput(2, "new");
+  channels_.Abandon(2);
+  channels_.Close(kChannel);
+  channels_.Close(kChannel);
+  EXPECT_EQ(FailureOf([&] { channels_.ReadText(kChannel); }), ErrorNumber::kBadChannel);
+  EXPECT_EQ(FailureOf([&] { channels_.WriteLine(2, {}); }), ErrorNumber::kBadChannel);
+}
+
+TEST_F(FileChannelsTest, FilesThatCannotBeOpenedLeaveTheChannelClosed) {
+  std::filesystem::create_directory("folder");
+  for (const std::string path : {"", "missing", "missing/file", "file\xFF/x"}) {
+    EXPECT_EQ(FailureOf([&] { channels_.OpenInput(kChannel, path); }), ErrorNumber::kFileNotFound);
+    EXPECT_FALSE(channels_.IsOpen(kChannel)) << path;
+  }
+  for (const std::string path : {"", "missing/file", "folder"}) {
+    EXPECT_EQ(FailureOf([&] { channels_.OpenOutput(kChannel, path); }), ErrorNumber::kFileNotFound);
+    EXPECT_FALSE(channels_.IsOpen(kChannel)) << path;
+  }
+  // A folder may open where the system lets it; it holds no items.
+  EXPECT_TRUE(FailureOf([&] {
+    channels_.OpenInput(kChannel, "folder");
+    channels_.ReadText(kChannel);
+  }));
+}
+
+TEST_F(FileChannelsTest, WrittenLinesReplaceAFileOfAnyName) {
+  const std::filesystem::path path(u8"\u00e9\u4e2d name.x");
+  std::ofstream(path, std::ios::binary) << std::string(100, 'x');
+  const std::u8string name = path.u8string();
+  channels_.OpenOutput(kChannel, std::string(name.begin(), name.end()));
+  channels_.WriteLine(kChannel, {FileItem::Text("")});
+  channels_.WriteLine(kChannel, {FileItem::Text("a,\"b\""), FileItem::Number(-7)});
+  channels_.Close(kChannel);
+  EXPECT_EQ(Content(path), "\"\"\r\n\"a,\"b\"\",-7\r\n");
+}
+
+TEST_F(FileChannelsTest, DiskThatTakesNothingFailsTheWriteOrTheClose) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device that is always full";
+  channels_.OpenOutput(kChannel, "/dev/full");
+  EXPECT_EQ(FailureOf([&] {
+              channels_.WriteLine(kChannel, {FileItem::Text("short")});
+              channels_.Close(kChannel);
+            }),
+            ErrorNumber::kWriteFailed);
+  EXPECT_FALSE(channels_.IsOpen(kChannel));
+  const std::string long_text(1'000'000, 'x');
+  channels_.OpenOutput(kChannel, "/dev/full");
+  EXPECT_EQ(FailureOf([&] { channels_.WriteLine(kChannel, {FileItem::Text(long_text)}); }),
+            ErrorNumber::kWriteFailed);
+  channels_.Abandon(kChannel);
+  EXPECT_FALSE(channels_.IsOpen(kChannel));
+}
+
+}  // namespace
+}  // namespace quilla

@@ -1,0 +1,146 @@
+#include "platform/grid.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/failure_of.h"
+
+namespace quilla {
+namespace {
+
+constexpr CellColor kRed{0x0000FF};
+
+class GridTest : public testing::Test {
+ protected:
+  GridTest() {
+    grid_.SetRows(4);
+    grid_.CurrentCellChange = [this] { visited_.emplace_back(grid_.Row(), grid_.Col()); };
+  }
+
+  /// The texts of column 0.
+  std::string Column() const {
+    std::string texts;
+    for (int row = 0; row < grid_.Rows(); ++row) texts += grid_.TextMatrix(row, 0) + "|";
+    return texts;
+  }
+  std::vector<std::pair<int, int>> TakeVisited() { return std::exchange(visited_, {}); }
+
+  Grid grid_{nullptr, "Grid", 3};
+  std::vector<std::pair<int, int>> visited_;
+};
+
+TEST_F(GridTest, TextsAndColoursMoveWithTheirRows) {
+  for (int row = 0; row < 4; ++row) grid_.SetTextMatrix(row, 0, std::to_string(row));
+  grid_.Paint(2, 1, kRed, kSelectionColor);
+  grid_.InsertRows(1, 2);
+  EXPECT_EQ(Column(), "0|||1|2|3|");
+  EXPECT_EQ(grid_.BackColor(4, 1), kRed);
+  EXPECT_EQ(grid_.ForeColor(4, 1), kSelectionColor);
+  EXPECT_EQ(grid_.BackColor(2, 1), kNormalColor);
+  grid_.RemoveRows(0, 2);
+  EXPECT_EQ(Column(), "1|2|3|");
+  EXPECT_EQ(grid_.BackColor(1, 1), kRed);
+  grid_.AddItem("2");
+  grid_.SetRows(2);
+  grid_.SetRows(3);
+  EXPECT_EQ(Column(), "1|2||");
+  grid_.Clear();
+  EXPECT_EQ(Column(), "|||");
+  EXPECT_EQ(grid_.BackColor(1, 1), kNormalColor);
+}
+
+TEST_F(GridTest, CellsAndRowsOutsideFail) {
+  const std::function<void()> outside[] = {
+      [&] { grid_.TextMatrix(4, 0); },      [&] { grid_.TextMatrix(-1, 0); },
+      [&] { grid_.TextMatrix(0, 3); },      [&] { grid_.SetTextMatrix(0, -1, "x"); },
+      [&] { grid_.PaintBack(4, 0, kRed); }, [&] { grid_.SelectRow(4); },
+      [&] { grid_.SelectColumn(3); },       [&] { grid_.InsertRows(5, 1); },
+      [&] { grid_.InsertRows(0, -1); },     [&] { grid_.RemoveRows(3, 4); },
+      [&] { grid_.RemoveRows(2, 1); },      [&] { grid_.SetRows(-1); },
+      [&] { grid_.PressCell(4, 0); },       [&] { grid_.HoverCell(0, 3); },
+  };
+  for (const auto& operation : outside) EXPECT_EQ(FailureOf(operation), ErrorNumber::kOutsideTable);
+  EXPECT_EQ(grid_.Rows(), 4);
+  EXPECT_TRUE(TakeVisited().empty());
+}
+
+TEST_F(GridTest, GrowsToItsLimit) {
+  Grid tall(nullptr, "Tall", 1);
+  tall.SetRows(Grid::kMaxRows);
+  EXPECT_EQ(FailureOf([&] { tall.AddItem("x"); }), ErrorNumber::kGridMemory);
+  EXPECT_EQ(tall.Rows(), Grid::kMaxRows);
+  tall.SetRows(1);
+  EXPECT_EQ(FailureOf([&] { tall.SetRows(2'000'000'000); }), ErrorNumber::kGridMemory);
+  EXPECT_EQ(FailureOf([&] { tall.InsertRows(0, 2'147'483'647); }), ErrorNumber::kGridMemory);
+  EXPECT_EQ(tall.Rows(), 1);
+}
+
+TEST_F(GridTest, CurrentCellIsReportedOnceForEachMove) {
+  using Visits = std::vector<std::pair<int, int>>;
+  const struct {
+    std::function<void()> action;
+    Visits visits;
+  } cases[] = {
+      {[&] { grid_.PressCell(2, 1); }, {{2, 1}}},
+      {[&] { grid_.PaintBack(3, 2, kRed); }, {{3, 1}, {3, 2}}},
+      {[&] { grid_.Paint(3, 0, kRed, kRed); }, {{3, 0}}},
+      {[&] { grid_.PaintBack(3, 0, kNormalColor); }, {}},
+      {[&] { grid_.SelectCell(1, 0); }, {{1, 0}}},
+      {[&] { grid_.SetTextMatrix(3, 2, "x"); }, {}},
+      {[&] { grid_.BackColor(3, 2); }, {}},
+      {[&] { grid_.InsertRows(0, 1); }, {}},
+      {[&] { grid_.Clear(); }, {}},
+      {[&] { grid_.ReleaseAt(3); }, {}},
+  };
+  int number = 0;
+  for (const auto& [action, visits] : cases) {
+    action();
+    EXPECT_EQ(TakeVisited(), visits) << "case " << number++;
+  }
+}
+
+TEST_F(GridTest, CurrentRowKeepsItsNumberUpToTheLastRow) {
+  grid_.SelectRow(2);
+  grid_.InsertRows(0, 1);
+  EXPECT_EQ(grid_.Row(), 2);
+  grid_.RemoveRows(0, 2);
+  EXPECT_EQ(grid_.Row(), 1);
+  EXPECT_EQ(grid_.RowSel(), 1);
+  grid_.SetRows(0);
+  EXPECT_EQ(grid_.Row(), 0);
+}
+
+TEST_F(GridTest, DragEndsInsideAndHeadingRowsStayBehind) {
+  int releases = 0;
+  grid_.MouseUp = [&] { ++releases; };
+  grid_.PressCell(1, 2);
+  for (const auto& [release, row_sel] : {std::pair{3, 3}, {99, 3}, {-5, 0}}) {
+    grid_.ReleaseAt(release);
+    EXPECT_EQ(grid_.RowSel(), row_sel);
+  }
+  EXPECT_EQ(releases, 3);
+  grid_.SetFixedRows(1);
+  grid_.PressCell(0, 1);
+  EXPECT_EQ(grid_.Row(), 1);
+  EXPECT_EQ(grid_.Col(), 2);
+  EXPECT_EQ(grid_.MouseRow(), 0);
+  EXPECT_EQ(grid_.MouseCol(), 1);
+  grid_.ReleaseAt(0);
+  EXPECT_EQ(grid_.RowSel(), 1);
+}
+
+TEST_F(GridTest, HandlerThatFailsEndsWhereItStands) {
+  grid_.Click = [&] {
+    grid_.SetTextMatrix(0, 0, "written");
+    grid_.SetTextMatrix(9, 0, "outside");
+  };
+  grid_.ClickCell();
+  EXPECT_EQ(grid_.TextMatrix(0, 0), "written");
+}
+
+}  // namespace
+}  // namespace quilla

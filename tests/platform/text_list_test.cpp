@@ -1,0 +1,86 @@
+#include "platform/text_list.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/failure_of.h"
+
+namespace quilla {
+namespace {
+
+TEST(TextListTest, WritingAtTheEndAppendsAndBeyondFails) {
+  TextList list(nullptr, "List");
+  list.Set(0, "a");
+  list.Set(1, "b");
+  list.Set(0, "c");
+  EXPECT_EQ(list.items(), (std::vector<std::string>{"c", "b"}));
+  EXPECT_EQ(list.Find("b"), 1);
+  EXPECT_EQ(list.Find("B"), -1);
+  const std::function<void()> outside[] = {
+      [&] { list.Set(3, "x"); }, [&] { list.Set(-1, "x"); }, [&] { list.Remove(2); },
+      [&] { list.Remove(-1); },  [&] { list[2]; },           [&] { list[-1]; },
+  };
+  for (const auto& operation : outside) EXPECT_EQ(FailureOf(operation), ErrorNumber::kOutsideList);
+  EXPECT_EQ(list.Count(), 2);
+}
+
+TEST(TextListTest, MarksBeyondItsEndAreMissingNotSet) {
+  TextList list(nullptr, "List");
+  list.Assign({"a", "b", "c", "d"});
+  list.RemoveMarked({true, false, true});
+  EXPECT_EQ(list.items(), (std::vector<std::string>{"b", "d"}));
+  list.RemoveMarked({});
+  EXPECT_EQ(list.Count(), 2);
+}
+
+TEST(ComboBoxTest, ChoiceFollowsItsEntry) {
+  const std::vector<bool> doomed = {true, true, false, true};
+  const struct {
+    int chosen;
+    int index;  // after the change
+    std::string text;
+    std::function<void(ComboBox&)> change;
+  } cases[] = {
+      {2, 2, "c", [](ComboBox& list) { list.Add("e"); }},
+      {2, 1, "c", [](ComboBox& list) { list.Remove(0); }},
+      {2, 2, "c", [](ComboBox& list) { list.Remove(3); }},
+      {2, -1, "", [](ComboBox& list) { list.Remove(2); }},
+      {-1, -1, "", [](ComboBox& list) { list.Remove(0); }},
+      {2, 0, "c", [&](ComboBox& list) { list.RemoveMarked(doomed); }},
+      {1, -1, "", [&](ComboBox& list) { list.RemoveMarked(doomed); }},
+      {2, 2, "C", [](ComboBox& list) { list.Set(2, "C"); }},
+      {2, -1, "", [](ComboBox& list) { list.Clear(); }},
+      {2, -1, "", [](ComboBox& list) { list.Assign(list.items()); }},
+      {2, 0, "a", [](ComboBox& list) { list.SelectFirst(); }},
+  };
+  int number = 0;
+  for (const auto& [chosen, index, text, change] : cases) {
+    ComboBox list(nullptr, "Combo");
+    list.Assign({"a", "b", "c", "d"});
+    list.Select(chosen);
+    change(list);
+    EXPECT_EQ(list.index(), index) << "case " << number;
+    EXPECT_EQ(list.text(), text) << "case " << number++;
+  }
+}
+
+TEST(ComboBoxTest, OnlyTheUsersChoiceRunsTheHandler) {
+  ComboBox list(nullptr, "Combo");
+  int clicks = 0;
+  list.Click = [&] { ++clicks; };
+  list.SelectFirst();
+  EXPECT_EQ(list.index(), ComboBox::kNothingChosen);
+  list.Add("a");
+  list.Select(0);
+  EXPECT_EQ(clicks, 0);
+  list.Pick(0);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(FailureOf([&] { list.Select(1); }), ErrorNumber::kOutsideList);
+  EXPECT_EQ(list.index(), 0);
+}
+
+}  // namespace
+}  // namespace quilla

@@ -1,0 +1,17 @@
+// The program: the system with the desktop around it.
+#include <QApplication>
+
+#include "panel/quilla.h"
+#include "window/qt_outside.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("Quilla");
+  QApplication::setQuitOnLastWindowClosed(false);
+  quilla::QtOutside outside;
+  quilla::Quilla quilla(outside.ports());
+  quilla.Start();
+  const int result = QApplication::exec();
+  outside.event_loop().DestroyWindows();
+  return result;
+}

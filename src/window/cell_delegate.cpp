@@ -1,0 +1,148 @@
+#include "window/cell_delegate.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <array>
+#include <optional>
+#include <span>
+
+#include "window/colors.h"
+
+namespace quilla {
+namespace {
+
+constexpr int kTextMargin = 5;
+constexpr float kSelectedTint = 0.45F;
+constexpr double kFocusWidth = 2;
+
+// A mark is a line drawn in a square of side 1.
+using MarkPoint = QPointF;
+const std::array kArrow = {MarkPoint(0.1, 0.0), MarkPoint(0.8, 0.5), MarkPoint(0.1, 1.0),
+                           MarkPoint(0.1, 0.0)};
+const std::array kTick = {MarkPoint(0.0, 0.55), MarkPoint(0.35, 0.95), MarkPoint(1.0, 0.05)};
+const std::array kCross = {MarkPoint(0.0, 0.0), MarkPoint(1.0, 1.0), MarkPoint(0.5, 0.5),
+                           MarkPoint(1.0, 0.0), MarkPoint(0.0, 1.0)};
+const std::array kDiamond = {MarkPoint(0.5, 0.0), MarkPoint(1.0, 0.5), MarkPoint(0.5, 1.0),
+                             MarkPoint(0.0, 0.5), MarkPoint(0.5, 0.0)};
+const std::array kPencil = {MarkPoint(0.0, 1.0),  MarkPoint(0.1, 0.65), MarkPoint(0.75, 0.0),
+                            MarkPoint(1.0, 0.25), MarkPoint(0.35, 0.9), MarkPoint(0.0, 1.0)};
+
+struct PaintedLook {
+  int value;  // the painted colour, blue-green-red
+  bool bold;
+  std::span<const MarkPoint> mark;
+};
+
+// Picked, to be left alone, found, and the comment under edit; an origin row has none, its word
+// tells it.
+const std::array kPaintedLooks = {
+    PaintedLook{0x00FF00, true, kTick},    PaintedLook{0x0000FF, false, kCross},
+    PaintedLook{0xFF0000, true, kDiamond}, PaintedLook{0xC0FFC0, false, kPencil},
+    PaintedLook{0xE0E0E0, true, {}},
+};
+
+struct Look {
+  std::optional<QColor> back;
+  QColor fore;
+  bool bold = false;
+  std::span<const MarkPoint> mark;
+};
+
+/// The look of a cell; `text` names the colour of texts on a ground that is not painted.
+Look LookOf(CellColor back, CellColor fore, const QPalette& palette, QPalette::ColorRole text) {
+  Look look;
+  look.fore = palette.color(text);
+  if (back == kSelectionColor) {
+    look.back = palette.color(QPalette::Highlight);
+    look.fore = palette.color(QPalette::HighlightedText);
+    look.mark = kArrow;
+  } else if (back.is_painted()) {
+    look.back = FromBlueGreenRed(static_cast<unsigned>(back.value()));
+    look.fore = TextOn(*look.back);
+    for (const PaintedLook& painted : kPaintedLooks) {
+      if (painted.value != back.value()) continue;
+      look.bold = painted.bold;
+      look.mark = painted.mark;
+    }
+  }
+  if (fore.is_painted()) {
+    const QColor ground = look.back.value_or(palette.color(QPalette::Base));
+    look.fore = ReadableOn(ground, FromBlueGreenRed(static_cast<unsigned>(fore.value())));
+  }
+  return look;
+}
+
+// Draws the mark at the right end of `area` and gives the room that is left for the text.
+QRect DrawMark(QPainter& painter, const Look& look, QRect area) {
+  const double side = area.height() * 0.36;
+  const QPointF corner(area.right() - side, area.center().y() - side / 2 + 0.5);
+  QPolygonF line;
+  for (const MarkPoint& point : look.mark) line << corner + point * side;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(look.fore, side * 0.22, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(line);
+  area.setRight(static_cast<int>(corner.x()) - kTextMargin);
+  return area;
+}
+
+void DrawText(QPainter& painter, const Look& look, const QRect& area,
+              const QStyleOptionViewItem& option, const QModelIndex& index) {
+  QFont font = option.font;
+  font.setBold(look.bold);
+  painter.setFont(font);
+  painter.setPen(look.fore);
+  const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+  const QString text =
+      QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, area.width());
+  painter.drawText(area, static_cast<int>(alignment) | Qt::TextSingleLine, text);
+}
+
+}  // namespace
+
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+  if (index.row() >= grid_.Rows()) return;
+  // The view has filled the ground of a selected row.
+  const bool selected = option.state.testFlag(QStyle::State_Selected);
+  Look look = LookOf(grid_.BackColor(index.row(), index.column()),
+                     grid_.ForeColor(index.row(), index.column()), option.palette,
+                     selected ? QPalette::HighlightedText : QPalette::Text);
+  if (index.row() < grid_.FixedRows()) {
+    look.back = option.palette.color(QPalette::Button);
+    look.fore = option.palette.color(QPalette::ButtonText);
+    look.bold = true;
+  }
+  painter->save();
+  if (look.back) painter->fillRect(option.rect, *look.back);
+  if (look.back && selected) {
+    QColor tint = option.palette.color(QPalette::Highlight);
+    tint.setAlphaF(kSelectedTint);
+    painter->fillRect(option.rect, tint);
+  }
+  QRect area = option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
+  if (!look.mark.empty()) area = DrawMark(*painter, look, area);
+  DrawText(*painter, look, area, option, index);
+  if (option.state.testFlag(QStyle::State_HasFocus)) {
+    const bool has_ground = look.back || selected;
+    painter->setPen(
+        QPen(has_ground ? look.fore : option.palette.color(QPalette::Highlight), kFocusWidth));
+    painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+  }
+  painter->restore();
+}
+
+QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  return {option.fontMetrics.horizontalAdvance(index.data().toString()) + 2 * kTextMargin,
+          option.fontMetrics.height()};
+}
+
+bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index) {
+  const bool cut = sizeHint(option, index).width() > option.rect.width();
+  QToolTip::showText(event->globalPos(), cut ? index.data().toString() : QString(), view);
+  return true;
+}
+
+}  // namespace quilla

@@ -1,0 +1,122 @@
+#include "window/grid_model.h"
+
+#include <QTimerEvent>
+#include <algorithm>
+#include <utility>
+
+#include "window/qt_text.h"
+
+namespace quilla {
+namespace {
+
+constexpr int kAlignLeft = 1;
+
+}  // namespace
+
+GridModel::GridModel(Grid& grid, QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid), row_count_(grid.Rows()) {
+  grid_.grid_observer = this;
+  for (int row = 0; row < row_count_ && cursor_row_ == kNone; ++row) {
+    if (HasCursor(row)) cursor_row_ = row;
+  }
+}
+
+GridModel::~GridModel() { grid_.grid_observer = nullptr; }
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : row_count_;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : grid_.Cols();
+}
+
+int GridModel::GridRow(int row) const {
+  if (announced_count_ == 0 || row < announced_at_) return row;
+  if (announced_count_ < 0 && row < announced_at_ - announced_count_) return kNone;
+  return row + announced_count_;
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+  if (role == Qt::DisplayRole) {
+    const int row = GridRow(index.row());
+    if (row < 0 || row >= grid_.Rows()) return {};
+    return ToQt(grid_.TextMatrix(row, index.column()));
+  }
+  if (role == Qt::TextAlignmentRole) {
+    const bool left = grid_.ColAlignment(index.column()) == kAlignLeft;
+    return QVariant::fromValue(Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignHCenter));
+  }
+  return {};
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+  return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
+                         : Qt::NoItemFlags;
+}
+
+bool GridModel::HasCursor(int row) const {
+  for (int column = 0; column < grid_.Cols(); ++column) {
+    if (grid_.BackColor(row, column) == kSelectionColor) return true;
+  }
+  return false;
+}
+
+void GridModel::RowsChanged(int first, int last) {
+  if (touched_first_ == kNone) {
+    touched_first_ = first;
+    touched_last_ = last;
+    if (!report_timer_.isActive()) report_timer_.start(0, this);
+  } else {
+    touched_first_ = std::min(touched_first_, first);
+    touched_last_ = std::max(touched_last_, last);
+  }
+  if (first == last && HasCursor(first)) {
+    cursor_row_ = first;
+    cursor_touched_ = true;
+  }
+}
+
+void GridModel::RowsInserted(int first, int count) {
+  ReportTouchedRows();
+  announced_at_ = first;
+  announced_count_ = count;
+  beginInsertRows({}, first, first + count - 1);
+  announced_count_ = 0;
+  row_count_ += count;
+  endInsertRows();
+  if (cursor_row_ >= first) cursor_row_ += count;
+}
+
+void GridModel::RowsRemoved(int first, int count) {
+  ReportTouchedRows();
+  announced_at_ = first;
+  announced_count_ = -count;
+  beginRemoveRows({}, first, first + count - 1);
+  announced_count_ = 0;
+  row_count_ -= count;
+  endRemoveRows();
+  if (cursor_row_ >= first + count) {
+    cursor_row_ -= count;
+  } else if (cursor_row_ >= first) {
+    cursor_row_ = kNone;
+  }
+}
+
+void GridModel::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != report_timer_.timerId()) return;
+  report_timer_.stop();
+  ReportTouchedRows();
+  if (std::exchange(cursor_touched_, false) && cursor_row_ != kNone) {
+    Q_EMIT CursorTouched(cursor_row_);
+  }
+}
+
+void GridModel::ReportTouchedRows() {
+  if (touched_first_ == kNone) return;
+  const int first = std::exchange(touched_first_, kNone);
+  const int last = std::min(touched_last_, row_count_ - 1);
+  if (first <= last) Q_EMIT dataChanged(index(first, 0), index(last, grid_.Cols() - 1));
+}
+
+}  // namespace quilla

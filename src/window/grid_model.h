@@ -1,0 +1,65 @@
+// A grid of the models as an item model of Qt: a thin view that holds no cell of its own.
+#ifndef QUILLA_WINDOW_GRID_MODEL_H_
+#define QUILLA_WINDOW_GRID_MODEL_H_
+
+#include <QAbstractTableModel>
+#include <QBasicTimer>
+
+#include "platform/grid.h"
+
+namespace quilla {
+
+class GridModel : public QAbstractTableModel, public GridObserver {
+  Q_OBJECT
+  Q_DISABLE_COPY_MOVE(GridModel)
+
+ public:
+  /// The grid must outlive the model, and has no other observer meanwhile.
+  explicit GridModel(Grid& grid, QObject* parent = nullptr);
+  ~GridModel() override;
+
+  int rowCount(const QModelIndex& parent) const override;
+  int columnCount(const QModelIndex& parent) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+  const Grid& grid() const { return grid_; }
+
+ Q_SIGNALS:
+  /// The cell with the selection colour has been painted in this row, or has moved to it.
+  void CursorTouched(int row);
+
+ protected:
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  // Told by the grid, after the change.
+  void PropertyChanged(Property /*property*/) override {}
+  void RowsChanged(int first, int last) override;
+  void RowsInserted(int first, int count) override;
+  void RowsRemoved(int first, int count) override;
+
+  void ReportTouchedRows();
+  bool HasCursor(int row) const;
+  /// The row of the grid behind `row`, or -1 for a row that is just being removed.
+  int GridRow(int row) const;
+
+  static constexpr int kNone = -1;
+
+  Grid& grid_;
+  int row_count_;
+  // The rows touched since the last report, reported together when the handler is over.
+  int touched_first_ = kNone;
+  int touched_last_ = kNone;
+  QBasicTimer report_timer_;
+  int cursor_row_ = kNone;
+  bool cursor_touched_ = false;
+  // While rows are announced to come (count above 0) or go (below 0), which the grid has done
+  // already.
+  int announced_at_ = 0;
+  int announced_count_ = 0;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_GRID_MODEL_H_

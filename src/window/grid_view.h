@@ -1,0 +1,63 @@
+// A grid on the screen: rows of one height, columns in the proportions that the grid gives them,
+// the last one taking what room is left. The mouse acts on the grid; nothing is edited in place.
+#ifndef QUILLA_WINDOW_GRID_VIEW_H_
+#define QUILLA_WINDOW_GRID_VIEW_H_
+
+#include <QBasicTimer>
+#include <QTableView>
+#include <vector>
+
+#include "platform/grid.h"
+#include "window/gate.h"
+#include "window/grid_model.h"
+
+namespace quilla {
+
+class GridView : public QTableView {
+  Q_OBJECT
+
+ public:
+  GridView(Gate& gate, Grid& grid, QWidget* parent);
+
+  /// Widths in pixels, as they were laid out last.
+  std::vector<int> ColumnWidths() const;
+  /// Brings the selection and the pointer shape in line with the grid.
+  void SyncWithGrid();
+
+ Q_SIGNALS:
+  void ColumnsLaidOut();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void LayOutColumns();
+  void FitRows();
+  void ShowRows(int from, int to);
+  void DragTo(int y);
+  void KeepInView(int row);
+  void Click(const QModelIndex& cell);
+  /// The row at a height of the view, cut off at the first and the last.
+  int RowNear(int y) const;
+
+  static constexpr int kNone = -1;
+
+  Gate& gate_;
+  Grid& grid_;
+  int press_row_ = kNone;
+  int press_column_ = kNone;
+  QPoint pointer_;
+  QBasicTimer scroll_timer_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_GRID_VIEW_H_

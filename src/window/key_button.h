@@ -1,0 +1,32 @@
+// Buttons that show clearly when they have the focus: the push button of the panel, and the key,
+// which is no wider than its caption needs, so that many of them fit side by side.
+#ifndef QUILLA_WINDOW_KEY_BUTTON_H_
+#define QUILLA_WINDOW_KEY_BUTTON_H_
+
+#include <QPushButton>
+
+namespace quilla {
+
+class PanelButton : public QPushButton {
+  Q_OBJECT
+
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+class KeyButton : public PanelButton {
+  Q_OBJECT
+
+ public:
+  explicit KeyButton(QWidget* parent);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_KEY_BUTTON_H_

@@ -1,0 +1,141 @@
+#include "window/main_window.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QScreen>
+#include <algorithm>
+
+#include "window/box_pages.h"
+#include "window/menus.h"
+#include "window/widgets.h"
+
+namespace quilla {
+namespace {
+
+constexpr const char* kTable = "Table1";
+constexpr const char* kInstructionBox = "InstructionBox";
+constexpr const char* kTipsBox = "TipsBox";
+constexpr const char* kWriteModeBox = "WriteModeBox";
+constexpr const char* kCancelButton = "TableCancelButton";
+
+// The size that the window asks for, in widths of a digit and heights of a line.
+constexpr int kPreferredDigits = 175;
+constexpr int kPreferredLines = 56;
+
+}  // namespace
+
+MainWindow::MainWindow(Gate& gate, EventLoop& event_loop, Form& form)
+    : mirror_(gate, event_loop, form, *this) {
+  BuildMenus(mirror_, *menuBar());
+  auto* const content = new QWidget(this);
+  auto* const column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(MakeHeadings());
+  column->addWidget(MakeTable(), 1);
+  column->addWidget(MakeBoxes());
+  column->addWidget(MakeTipLine());
+  WidgetMaker(mirror_, content).MakeOutOfSight(kCancelButton);
+  setCentralWidget(content);
+  for (QWidget* widget : findChildren<QWidget*>()) widget->setMouseTracking(true);
+  mirror_.focus_home = [this] { FocusHome(); };
+
+  const QSize preferred(kPreferredDigits * fontMetrics().horizontalAdvance(u'0'),
+                        kPreferredLines * fontMetrics().lineSpacing());
+  resize(preferred.boundedTo(screen()->availableSize()));
+}
+
+QWidget* MainWindow::MakeHeadings() {
+  auto* const strip = new QFrame(this);
+  strip->setFrameShape(QFrame::StyledPanel);
+  auto* const row = new QHBoxLayout(strip);
+  row->setContentsMargins(0, 2, 0, 2);
+  row->setSpacing(0);
+  const WidgetMaker make(mirror_, strip);
+  while (QWidget* const heading = make.MakeBold("HeadLabel", static_cast<int>(headings_.size()))) {
+    const auto& grid = static_cast<const Grid&>(*mirror_.form().Find(kTable));
+    const bool left = grid.ColAlignment(static_cast<int>(headings_.size())) == 1;
+    static_cast<QLabel*>(heading)->setAlignment(left ? Qt::AlignLeft : Qt::AlignHCenter);
+    static_cast<QLabel*>(heading)->setMargin(2);
+    row->addWidget(heading);
+    headings_.push_back(heading);
+  }
+  row->addStretch();
+  return strip;
+}
+
+QWidget* MainWindow::MakeTable() {
+  auto& grid = dynamic_cast<Grid&>(*mirror_.form().Find(kTable));
+  table_ = static_cast<GridView*>(WidgetMaker(mirror_, this).Make(grid));
+  table_->setFrameShape(QFrame::NoFrame);
+  connect(table_, &GridView::ColumnsLaidOut, this, &MainWindow::AlignHeadings);
+  return table_;
+}
+
+void MainWindow::AlignHeadings() {
+  const std::vector<int> widths = table_->ColumnWidths();
+  for (std::size_t i = 0; i < std::min(widths.size(), headings_.size()); ++i) {
+    headings_[i]->setFixedWidth(widths[i]);
+  }
+}
+
+QWidget* MainWindow::MakeBoxes() {
+  boxes_ = new BoxArea(this);
+  for (Control* control : mirror_.form().controls()) {
+    auto* const box = dynamic_cast<Box*>(control);
+    if (box == nullptr || box->name() == kTipsBox || box->name() == kWriteModeBox) continue;
+    if (box->name() == kInstructionBox) {
+      instructions_ = new InstructionPage(mirror_, boxes_);
+      mirror_.Bind(*box, *instructions_);
+      boxes_->Place(*instructions_);
+    } else {
+      boxes_->Add(*box,
+                  [this, box](QWidget* parent) { return BuildBoxPage(mirror_, *box, parent); });
+    }
+  }
+  return boxes_;
+}
+
+QWidget* MainWindow::MakeTipLine() {
+  auto* const line = new QFrame(this);
+  line->setFrameShape(QFrame::StyledPanel);
+  auto* const row = new QHBoxLayout(line);
+  row->setContentsMargins(6, 2, 6, 2);
+  row->addWidget(MakeStrip(kTipsBox, "Tips:", "TipsLabel", 1), 1);
+  row->addStretch();
+  row->addWidget(MakeStrip(kWriteModeBox, "Write Mode: ", "WriteModeLabel", 0));
+  return line;
+}
+
+// A box of one line: its heading, then a label.
+QWidget* MainWindow::MakeStrip(const char* box, const char* heading, const char* label,
+                               int stretch) {
+  auto* const strip = new QWidget(this);
+  auto* const row = new QHBoxLayout(strip);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(new QLabel(heading, strip));
+  if (QWidget* const text = WidgetMaker(mirror_, strip).MakeBold(label)) {
+    row->addWidget(text, stretch);
+  }
+  if (auto* const model = dynamic_cast<Box*>(mirror_.form().Find(box))) {
+    mirror_.Bind(*model, *strip);
+  }
+  return strip;
+}
+
+void MainWindow::FocusHome() {
+  QWidget* const page = boxes_->top();
+  if (page != nullptr && page == instructions_) {
+    instructions_->FocusLastKey();
+    return;
+  }
+  for (QWidget* widget : page == nullptr ? QWidgetList() : page->findChildren<QWidget*>()) {
+    const bool takes_focus = (widget->focusPolicy() & Qt::TabFocus) != 0;
+    if (!takes_focus || !widget->isVisible() || !widget->isEnabled()) continue;
+    widget->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+  table_->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace quilla

@@ -1,0 +1,21 @@
+#include "window/qt_clock.h"
+
+namespace quilla {
+
+void QtClock::Start(Timer& timer) {
+  std::unique_ptr<QTimer>& qt_timer = timers_[&timer];
+  if (qt_timer == nullptr) {
+    qt_timer = std::make_unique<QTimer>();
+    qt_timer->setTimerType(Qt::PreciseTimer);
+    QObject::connect(qt_timer.get(), &QTimer::timeout,
+                     [this, &timer] { gate_.Enter([&timer] { timer.Expire(); }); });
+  }
+  qt_timer->start(timer.interval_ms());
+}
+
+void QtClock::Stop(Timer& timer) {
+  const auto found = timers_.find(&timer);
+  if (found != timers_.end()) found->second->stop();
+}
+
+}  // namespace quilla

@@ -1,0 +1,29 @@
+// Message boxes and file dialogs of the desktop.
+#ifndef QUILLA_WINDOW_QT_DIALOGS_H_
+#define QUILLA_WINDOW_QT_DIALOGS_H_
+
+#include <QString>
+
+#include "platform/dialogs.h"
+
+namespace quilla {
+
+class QtMessageBoxes : public MessageBoxes {
+ public:
+  BoxAnswer Show(BoxIcon icon, const std::string& text, BoxButtons buttons) override;
+};
+
+class QtFileDialogs : public FileDialogs {
+ public:
+  std::optional<std::string> Choose(const FileDialogRequest& request) override;
+
+ private:
+  QString folder_;  // where the last file was chosen
+};
+
+/// A filter such as "Hex Files(*.hex)|*.hex" in the form that Qt takes: "Hex Files (*.hex)".
+QString QtFilter(const std::string& filter);
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_QT_DIALOGS_H_

@@ -1,0 +1,62 @@
+#include "window/qt_event_loop.h"
+
+#include <QApplication>
+#include <QWindow>
+
+namespace quilla {
+namespace {
+
+/// The program has ended under a handler that waits. No handler catches it, since it is no
+/// std::exception; the gate does.
+struct ProgramEnded {};
+
+}  // namespace
+
+QWidget* QtEventLoop::WindowOf(const Form& form) const {
+  const auto found = windows_.find(&form);
+  return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void QtEventLoop::OpenWindow(Form& form) {
+  std::unique_ptr<QWidget>& window = windows_[&form];
+  if (window == nullptr) window = make_window_(form);
+  const QWidget* const active = QApplication::activeWindow();
+  if (window->isModal() && active != nullptr) {
+    window->winId();  // makes the window's handle
+    window->windowHandle()->setTransientParent(active->windowHandle());
+  }
+  window->show();
+}
+
+void QtEventLoop::RaiseWindow(Form& form) {
+  QWidget* const window = WindowOf(form);
+  if (window == nullptr) return;
+  window->raise();
+  window->activateWindow();
+}
+
+void QtEventLoop::CloseWindow(Form& form) {
+  if (QWidget* const window = WindowOf(form)) window->hide();
+  const auto wait = waits_.find(&form);
+  if (wait != waits_.end()) wait->second->quit();
+}
+
+void QtEventLoop::WaitUntilClosed(Form& form) {
+  QEventLoop loop;
+  waits_[&form] = &loop;
+  while (form.visible() && !gate_.is_shut()) loop.exec();
+  waits_.erase(&form);
+  if (gate_.is_shut()) throw ProgramEnded{};
+}
+
+void QtEventLoop::Yield(const Control& /*waiter*/) {
+  QCoreApplication::processEvents();
+  if (gate_.is_shut()) throw ProgramEnded{};
+}
+
+void QtEventLoop::End() {
+  gate_.Shut();
+  QCoreApplication::exit();
+}
+
+}  // namespace quilla

@@ -1,0 +1,49 @@
+// Windows and their event loop. A window is made when its form is first shown, and is kept,
+// hidden, while the form is closed.
+#ifndef QUILLA_WINDOW_QT_EVENT_LOOP_H_
+#define QUILLA_WINDOW_QT_EVENT_LOOP_H_
+
+#include <QEventLoop>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <utility>
+
+#include "platform/outside.h"
+#include "window/gate.h"
+
+namespace quilla {
+
+class QtEventLoop : public EventLoop {
+ public:
+  using WindowFactory = std::function<std::unique_ptr<QWidget>(Form&)>;
+
+  QtEventLoop(Gate& gate, WindowFactory make_window)
+      : gate_(gate), make_window_(std::move(make_window)) {}
+
+  /// Takes all windows down, to be done before the forms go.
+  void DestroyWindows() { windows_.clear(); }
+  /// The window of a form; null while it was never shown.
+  QWidget* WindowOf(const Form& form) const;
+
+  /// Waiting for anything once the program has ended leaves the handler that waits.
+  void Yield(const Control& waiter) override;
+  void End() override;
+
+ protected:
+  void OpenWindow(Form& form) override;
+  void RaiseWindow(Form& form) override;
+  void CloseWindow(Form& form) override;
+  void WaitUntilClosed(Form& form) override;
+
+ private:
+  Gate& gate_;
+  WindowFactory make_window_;
+  std::unordered_map<const Form*, std::unique_ptr<QWidget>> windows_;
+  std::unordered_map<const Form*, QEventLoop*> waits_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_QT_EVENT_LOOP_H_

@@ -1,0 +1,94 @@
+#include "window/renumber_window.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+
+#include "window/box_page.h"
+#include "window/keypad.h"
+#include "window/widgets.h"
+
+namespace quilla {
+namespace {
+
+constexpr int kTableWidthInDigits = 46;
+constexpr int kTableRows = 14;
+constexpr int kSpacing = 16;
+
+// What comes and goes keeps its place, so that nothing jumps.
+void KeepPlace(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
+
+}  // namespace
+
+struct RenumberWindow::PageNames {
+  const char* frame;
+  const char* table;
+  const char* box;
+  const char* name;
+  const char* digits;
+  const char* accept;
+};
+
+RenumberWindow::RenumberWindow(Gate& gate, EventLoop& event_loop, Form& form)
+    : QWidget(nullptr, Qt::Dialog), mirror_(gate, event_loop, form, *this) {
+  setWindowModality(Qt::ApplicationModal);
+  const WidgetMaker make(mirror_, this);
+  auto* const options = new QHBoxLayout;
+  options->setSpacing(kSpacing);
+  options->addWidget(make.Make("LabelsOption"));
+  options->addWidget(make.Make("VariablesOption"));
+  options->addStretch();
+  auto* const pages = new QVBoxLayout;
+  pages->addWidget(MakePage(
+      {"LabelFrame", "LabelTable", "EqtBox", "LabelLabel", "EqtLabel", "EqtAcceptButton"}));
+  pages->addWidget(MakePage(
+      {"VariableFrame", "VariableTable", "XXBox", "VariableLabel", "XXLabel", "XXAcceptButton"}));
+  auto* const grid = new QGridLayout(this);
+  grid->setHorizontalSpacing(kSpacing);
+  grid->addLayout(options, 0, 0);
+  grid->addLayout(pages, 1, 0, 2, 1);
+  grid->addWidget(MakeDigitKeys(), 1, 1, Qt::AlignTop);
+  grid->addWidget(make.Make("DoneButton"), 2, 1, Qt::AlignBottom | Qt::AlignRight);
+  grid->setRowStretch(1, 1);
+}
+
+QWidget* RenumberWindow::MakePage(const PageNames& names) {
+  auto* const page = new QWidget(this);
+  const WidgetMaker make(mirror_, page);
+  auto* const column = new QVBoxLayout(page);
+  column->setContentsMargins(0, 0, 0, 0);
+  QWidget* const table = make.Make(names.table);
+  table->setMinimumSize(DigitsWidth(*table, kTableWidthInDigits),
+                        kTableRows * table->fontMetrics().lineSpacing());
+  column->addWidget(table, 1);
+
+  auto* const edit = new QWidget(page);
+  const WidgetMaker make_edit(mirror_, edit);
+  auto* const row = new QHBoxLayout(edit);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(kSpacing);
+  row->addWidget(make_edit.MakeBold(names.name));
+  row->addStretch();
+  row->addWidget(MakeBigDigits(make_edit, names.digits));
+  row->addWidget(make_edit.Make(names.accept));
+  KeepPlace(*edit);
+  column->addWidget(edit);
+  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find(names.box)), *edit);
+  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find(names.frame)), *page);
+  return page;
+}
+
+QWidget* RenumberWindow::MakeDigitKeys() {
+  auto* const box = new QWidget(this);
+  auto* const column = new QVBoxLayout(box);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(MakeKeypad(mirror_, box, "NUM"));
+  KeepPlace(*box);
+  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find("DigitBox")), *box);
+  return box;
+}
+
+}  // namespace quilla

@@ -1,0 +1,26 @@
+// The splash: a drawn chip with the name of the program, and the two lines of the form under it.
+#ifndef QUILLA_WINDOW_SPLASH_WINDOW_H_
+#define QUILLA_WINDOW_SPLASH_WINDOW_H_
+
+#include <QWidget>
+
+#include "window/form_mirror.h"
+
+namespace quilla {
+
+class SplashWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  SplashWindow(Gate& gate, EventLoop& event_loop, Form& form);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  FormMirror mirror_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_SPLASH_WINDOW_H_

@@ -1,0 +1,35 @@
+// The simulator's window: the instruction that comes next, and all tables of the machine side by
+// side, with the keys that step it and set its lines and ports.
+#ifndef QUILLA_WINDOW_WATCH_WINDOW_H_
+#define QUILLA_WINDOW_WATCH_WINDOW_H_
+
+#include <QBoxLayout>
+#include <QWidget>
+
+#include "window/form_mirror.h"
+#include "window/widgets.h"
+
+namespace quilla {
+
+class WatchWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  WatchWindow(Gate& gate, EventLoop& event_loop, Form& form);
+
+ private:
+  QLayout* MakeInstruction();
+  /// A table that scrolls in the window's height, under its caption.
+  QBoxLayout* MakeTall(const char* caption, const char* table, int width_in_digits);
+  QLayout* MakePorts();
+  QLayout* MakeLines();
+  QWidget* MakeStartingAddress();
+  GridView* MakeTable(const char* name, int width_in_digits);
+
+  FormMirror mirror_;
+  WidgetMaker make_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_WATCH_WINDOW_H_

@@ -1,0 +1,33 @@
+#include "window/windows.h"
+
+#include <map>
+#include <string>
+
+#include "window/main_window.h"
+#include "window/renumber_window.h"
+#include "window/splash_window.h"
+#include "window/watch_window.h"
+
+namespace quilla {
+namespace {
+
+using Maker = std::unique_ptr<QWidget> (*)(Gate&, EventLoop&, Form&);
+
+template <typename Window>
+std::unique_ptr<QWidget> Make(Gate& gate, EventLoop& event_loop, Form& form) {
+  return std::make_unique<Window>(gate, event_loop, form);
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> MakeWindow(Gate& gate, EventLoop& event_loop, Form& form) {
+  static const std::map<std::string, Maker> kMakers = {
+      {"OpenForm", Make<SplashWindow>},
+      {"ProgrammingPanel", Make<MainWindow>},
+      {"RenumberDialog", Make<RenumberWindow>},
+      {"WatchWindowDialog", Make<WatchWindow>},
+  };
+  return kMakers.at(form.name())(gate, event_loop, form);
+}
+
+}  // namespace quilla

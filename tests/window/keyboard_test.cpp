@@ -1,0 +1,152 @@
+// The panel worked with the keyboard alone, and where the focus goes.
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <set>
+
+#include "window/panel_fixture.h"
+
+namespace quilla {
+namespace {
+
+class KeyboardTest : public PanelTest {
+ protected:
+  void StartOrigin() {
+    window().findChild<QAction*>("NewOrigin")->trigger();
+    outside_.clock.PassAll();
+  }
+};
+
+TEST_F(KeyboardTest, EntersAnInstruction) {
+  Type("MVI");
+  EXPECT_EQ(FocusName(), "INST 1");
+  Press(Qt::Key_Space);
+  EXPECT_EQ(FocusName(), "RegisterBox");
+  Type("p");  // not a register of MVI
+  EXPECT_EQ(state(), PanelState::kMviRegister);
+  Type("a");
+  EXPECT_EQ(FocusName(), "XXText");
+  Type("one");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Cell(1, kMnemonicColumn), "MVI  A,   one");
+  EXPECT_EQ(state(), PanelState::kReady);
+  EXPECT_EQ(FocusName(), "INST 1") << "the key used last, so that the next one is near";
+}
+
+TEST_F(KeyboardTest, EnterPressesTheFocusedKeyWhereThereIsNoDefault) {
+  Type("NOP");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Cell(1, kOpcodeColumn), "00");
+}
+
+TEST_F(KeyboardTest, EnterPressesTheDefaultButtonWhereverTheFocusIs) {
+  StartOrigin();
+  Type("9fg");
+  EXPECT_EQ(Find<QLabel>("NumberLabel").text(), "009F");
+  Find("Table1").setFocus();
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(Cell(1, kAddressColumn), "009F");
+  EXPECT_EQ(state(), PanelState::kReady);
+}
+
+TEST_F(KeyboardTest, DigitsReachTheNumberFromAnywhere) {
+  StartOrigin();
+  Find("Table1").setFocus();
+  Type("1");
+  EXPECT_EQ(Find<QLabel>("NumberLabel").text(), "0001");
+}
+
+TEST_F(KeyboardTest, DigitsGoToARestartThoughNothingCanBeAccepted) {
+  Click("INST 67");
+  EXPECT_EQ(FocusName(), "NumberFocusButton");
+  Type("87");
+  EXPECT_EQ(Cell(1, kMnemonicColumn), "RST 7");
+}
+
+TEST_F(KeyboardTest, EscapeLeadsBackAndGivesTheFocusToTheKeyUsedLast) {
+  struct Case {
+    const char* key;
+    const char* focus;
+  };
+  for (const Case& each : {Case{"INST 0", "RegisterBox"}, Case{"INST 15", "XXText"},
+                           Case{"INST 37", "LabelText"}, Case{"INST 67", "NumberFocusButton"}}) {
+    Click(each.key);
+    EXPECT_EQ(FocusName(), each.focus);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(state(), PanelState::kReady) << each.key;
+    EXPECT_EQ(FocusName(), each.key);
+  }
+}
+
+TEST_F(KeyboardTest, DataBytesNeedTwoDigitsAndEnter) {
+  Press(Qt::Key_M, Qt::ControlModifier);
+  for (const char* byte : {"3F", "c9"}) {
+    EXPECT_EQ(FocusName(), "DataAcceptButton");
+    Type(byte);
+    Press(Qt::Key_Return);
+  }
+  EXPECT_EQ(Cell(1, kOpcodeColumn), "3F");
+  EXPECT_EQ(Cell(2, kOpcodeColumn), "C9");
+}
+
+TEST_F(KeyboardTest, CommentsAreTypedIntoTheTable) {
+  Press(Qt::Key_F4);
+  QTest::mouseClick(Find<GridView>("Table1").viewport(), Qt::LeftButton, {}, {800, 30});
+  EXPECT_EQ(FocusName(), "CommentsTxt");
+  Type("5 > 4\"");
+  EXPECT_EQ(Cell(1, kCommentColumn), "5 > 4");
+  EXPECT_EQ(Find<QLineEdit>("CommentsTxt").text(), "5 > 4");
+}
+
+TEST_F(KeyboardTest, ShortcutsAreDeadWhileTheirEntryIsDisabled) {
+  Click("INST 0");
+  Press(Qt::Key_M, Qt::ControlModifier);
+  EXPECT_EQ(state(), PanelState::kMovDestination);
+}
+
+TEST_F(KeyboardTest, AnAccessKeyIsTheButtonsWhileTheButtonIsOnView) {
+  Click("INST 37");
+  Type("loop");
+  Press(Qt::Key_Return);
+  window().findChild<QAction*>("FindLabel")->trigger();
+  Press(Qt::Key_F, Qt::AltModifier);  // that of the file menu too
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  EXPECT_EQ(session().Table1.BackColor(1, kMnemonicColumn), kFoundColor);
+}
+
+TEST_F(KeyboardTest, ArrowsReachEveryInstructionKey) {
+  std::set<std::string> reached = {"INST 0"};
+  std::vector<std::string> waiting = {"INST 0"};
+  while (!waiting.empty()) {
+    const QString from = QString::fromStdString(waiting.back());
+    waiting.pop_back();
+    for (const Qt::Key arrow : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+      Find(from).setFocus();
+      Press(arrow);
+      if (reached.insert(FocusName()).second) waiting.push_back(FocusName());
+    }
+  }
+  EXPECT_EQ(reached.size(), 80U);
+}
+
+TEST_F(KeyboardTest, TheSameLetterGoesOnToTheNextKeyWithIt) {
+  std::set<std::string> found;
+  for (int i = 0; i < 5; ++i) {
+    Type("J");
+    found.insert(FocusName());
+  }
+  EXPECT_EQ(found.size(), 5U);
+  Type("Q");
+  EXPECT_TRUE(found.contains(FocusName()));
+}
+
+TEST_F(KeyboardTest, OneTabLeavesTheInstructionKeys) {
+  Type("CALL");
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(FocusName(), "Table1");
+  Press(Qt::Key_Backtab);
+  EXPECT_EQ(FocusName(), "INST 49");
+}
+
+}  // namespace
+}  // namespace quilla

@@ -1,0 +1,194 @@
+// The desktop's side: texts, boxes, file dialogs, clock, event loop and the door into the models.
+#include "window/qt_outside.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <functional>
+
+#include "platform/failure.h"
+#include "window/colors.h"
+#include "window/form_mirror.h"
+#include "window/qt_text.h"
+
+namespace quilla {
+namespace {
+
+TEST(QtTextTest, TakesTextsThatAreNoUtf8AsWindows1252) {
+  EXPECT_EQ(ToQt("loop \xC3\xA9"), QStringLiteral(u"loop \u00E9"));
+  EXPECT_EQ(ToQt("caf\xE9 \x80 \x93"), QStringLiteral(u"caf\u00E9 \u20AC \u201C"));
+  EXPECT_EQ(ToQt("\xC3\xA9\xE9"), QStringLiteral(u"\u00C3\u00A9\u00E9"))
+      << "the whole text or nothing";
+  EXPECT_EQ(FromQt(QStringLiteral(u"\u0915\u20AC")), "\xE0\xA4\x95\xE2\x82\xAC");
+  EXPECT_EQ(LabelText("a && b &c"), "a & b &c");
+}
+
+TEST(ColorsTest, TextReadsOnItsGround) {
+  EXPECT_EQ(FromBlueGreenRed(0x0000FF), QColor(Qt::red));
+  EXPECT_EQ(TextOn(QColor(0xE0, 0xE0, 0xE0)), QColor(Qt::black));
+  EXPECT_EQ(TextOn(QColor(Qt::blue)), QColor(Qt::white));
+  EXPECT_EQ(ReadableOn(QColor(Qt::white), QColor(0, 0x80, 0)), QColor(0, 0x80, 0));
+  EXPECT_GT(ReadableOn(QColor(0x20, 0x20, 0x20), QColor(0, 0x80, 0)).lightness(),
+            QColor(0, 0x80, 0).lightness());
+}
+
+TEST(GateTest, FailuresEndHereAndOthersAreKept) {
+  Gate gate;
+  gate.Enter([] { throw Failure(ErrorNumber::kNotANumber); });
+  EXPECT_EQ(gate.TakeEscaped(), nullptr);
+  gate.Enter([] { throw 5; });
+  EXPECT_THROW(std::rethrow_exception(gate.TakeEscaped()), int);
+  EXPECT_EQ(gate.TakeEscaped(), nullptr);
+  gate.Shut();
+  gate.Enter([] { ADD_FAILURE() << "the gate is shut"; });
+}
+
+/// Runs an action as soon as an event loop runs.
+void Soon(const std::function<void()>& action) {
+  QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
+}
+
+/// Runs an action on the dialog that is about to open.
+template <typename Dialog>
+void WhenOpen(const std::function<void(Dialog&)>& action) {
+  Soon([action] {
+    auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    action(*dialog);
+  });
+}
+
+TEST(QtMessageBoxesTest, ShowTheTextAndGiveTheButton) {
+  struct Case {
+    BoxButtons buttons;
+    std::vector<std::pair<QMessageBox::StandardButton, BoxAnswer>> answers;
+    BoxAnswer escape;
+  };
+  constexpr auto kOk = QMessageBox::Ok;
+  constexpr auto kCancel = QMessageBox::Cancel;
+  constexpr auto kYes = QMessageBox::Yes;
+  constexpr auto kNo = QMessageBox::No;
+  const std::vector<Case> cases = {
+      {BoxButtons::kOk, {{kOk, BoxAnswer::kOk}}, BoxAnswer::kOk},
+      {BoxButtons::kOkCancel,
+       {{kOk, BoxAnswer::kOk}, {kCancel, BoxAnswer::kCancel}},
+       BoxAnswer::kCancel},
+      {BoxButtons::kYesNo, {{kYes, BoxAnswer::kYes}, {kNo, BoxAnswer::kNo}}, BoxAnswer::kNo},
+      {BoxButtons::kYesNoCancel,
+       {{kYes, BoxAnswer::kYes}, {kNo, BoxAnswer::kNo}, {kCancel, BoxAnswer::kCancel}},
+       BoxAnswer::kCancel}};
+  QtMessageBoxes boxes;
+  for (const Case& each : cases) {
+    for (const auto& pair : each.answers) {
+      WhenOpen<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "Save <b>changes</b>?");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle(), "Quilla");
+        EXPECT_EQ(box.icon(), QMessageBox::Question);
+        EXPECT_EQ(box.buttons().size(), static_cast<qsizetype>(each.answers.size()));
+        box.button(pair.first)->click();
+      });
+      EXPECT_EQ(boxes.Show(BoxIcon::kQuestion, "Save <b>changes</b>?", each.buttons), pair.second);
+    }
+    WhenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(boxes.Show(BoxIcon::kQuestion, "?", each.buttons), each.escape);
+  }
+}
+
+TEST(QtFileDialogsTest, FiltersAreThoseOfTheRequest) {
+  EXPECT_EQ(QtFilter("Hex Files(*.hex)|*.hex"), "Hex Files (*.hex)");
+  EXPECT_EQ(QtFilter("Both (*.a;*.b)|*.a;*.b"), "Both (*.a *.b)");
+}
+
+TEST(QtFileDialogsTest, GiveThePathAsTypedOrNothing) {
+  const QTemporaryDir folder;
+  QtFileDialogs dialogs;
+  const FileDialogRequest request = {FileDialogKind::kSave, "Save to Hex file",
+                                     "Hex Files(*.hex)|*.hex", kOverwritePrompt | kPathMustExist};
+  const QString path = QDir(folder.path()).filePath(QStringLiteral(u"s\u00FCm of two"));
+  WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Save to Hex file");
+    EXPECT_EQ(dialog.nameFilters(), QStringList("Hex Files (*.hex)"));
+    EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+    dialog.findChild<QLineEdit*>()->setText(path);
+    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+  });
+  EXPECT_EQ(dialogs.Choose(request), path.toStdString()) << "no ending is added";
+  WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory(), QDir(folder.path())) << "it opens where the last one ended";
+    dialog.reject();
+  });
+  EXPECT_EQ(dialogs.Choose(request), std::nullopt);
+}
+
+TEST(QtClockTest, ATimerFiresUntilItsHandlerDisablesIt) {
+  Gate gate;
+  QtClock clock(gate);
+  Timer timer(clock, "Timer", 1);
+  Timer never(clock, "Never", 1);
+  int fired = 0;
+  timer.Fire = [&] {
+    if (++fired == 3) timer.Disable();
+  };
+  never.Fire = [] { ADD_FAILURE() << "disabled before it was due"; };
+  never.Enable();
+  never.Disable();
+  timer.Enable();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return fired == 3; }));
+  QTest::qWait(5);
+  EXPECT_EQ(fired, 3);
+}
+
+class QtEventLoopTest : public testing::Test {
+ protected:
+  Gate gate_;
+  Form form_{"Form"};
+  Form other_{"Other"};
+  QtEventLoop loop_{gate_, [this](Form& form) {
+                      auto window = std::make_unique<QWidget>();
+                      new FormMirror(gate_, loop_, form, *window);
+                      return window;
+                    }};
+};
+
+TEST_F(QtEventLoopTest, AModalWindowHoldsItsCallerUntilItIsClosed) {
+  bool may_close = false;
+  form_.QueryUnload = [&] { return may_close; };
+  Soon([&] {
+    loop_.WindowOf(form_)->close();
+    EXPECT_TRUE(form_.visible()) << "its question was answered with no";
+    EXPECT_TRUE(loop_.WindowOf(form_)->isVisible());
+    may_close = true;
+    loop_.WindowOf(form_)->close();
+  });
+  loop_.ShowModal(form_);
+  EXPECT_FALSE(loop_.WindowOf(form_)->isVisible());
+  QWidget* const first = loop_.WindowOf(form_);
+  loop_.Show(form_);
+  EXPECT_EQ(loop_.WindowOf(form_), first) << "a window is kept for the next time";
+  EXPECT_TRUE(first->isVisible());
+}
+
+TEST_F(QtEventLoopTest, TheEndLeavesEveryWaitInside) {
+  bool went_on = false;
+  Soon([&] {
+    gate_.Enter([&] {
+      loop_.ShowModal(form_);
+      went_on = true;
+    });
+  });
+  Soon([&] { gate_.Enter([&] { loop_.End(); }); });
+  QApplication::exec();
+  EXPECT_FALSE(went_on);
+  EXPECT_TRUE(gate_.is_shut());
+}
+
+}  // namespace
+}  // namespace quilla

@@ -58,7 +58,7 @@ InstructionEntry::InstructionEntry(Session& session, StateMachine& states, Entry
     INST_.back()->Click = [this, index] { INST_Click(index); };
     INST_.back()->MouseMove = [this, index] { INST_MouseMove(index); };
     InstructionHints_.emplace_back(key.hint.substr(0, key.caption.size()),
-                                   " " + std::string(key.hint.substr(key.caption.size())));
+                                   std::string(" ").append(key.hint.substr(key.caption.size())));
   }
   session_.ProgrammingPanel.MouseMove = [this] { Form_MouseMove(); };
   states_.SetStatus(BoxId::kInstruction, [this](bool status) { InstructionStatus(status); });

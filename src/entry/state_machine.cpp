@@ -17,7 +17,7 @@ enum class Entering {
 };
 
 struct StateRow {
-  const char* tip;
+  const char* tip = "";
   Entering entering = Entering::kNothing;
   BoxId box = BoxId::kInstruction;
 };

@@ -186,9 +186,10 @@ void ProjectFile::ReadProject() {
   file.OpenInput(kChannel, session_.ProjectPath);
   file.ReadText(kChannel);  // the warning
   if (file.ReadText(kChannel) != kFormatTag) throw Failure(ErrorNumber::kReadFailed);
-  rows_.SetRows(file.ReadNumber32(kChannel));
+  const int rows = file.ReadNumber32(kChannel);
   session_.Table1.Clear();
   session_.StringTable.Clear();
+  rows_.SetRows(rows);
   for (int row = 0; row < session_.Table1.Rows(); ++row) {
     for (int column = 0; column < kProgramColumns; ++column) {
       session_.Table1.SetTextMatrix(row, column, file.ReadText(kChannel));

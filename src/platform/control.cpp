@@ -7,7 +7,7 @@
 namespace quilla {
 
 Control::Control(Control* container, std::string name, int index)
-    : name_(std::move(name)), index_(index), container_(nullptr) {
+    : name_(std::move(name)), index_(index) {
   if (container != nullptr) PlaceIn(container);
 }
 
@@ -18,7 +18,9 @@ Control::~Control() {
 Form* Control::form() const {
   const Control* control = this;
   while (control->container_ != nullptr) control = control->container_;
-  return dynamic_cast<Form*>(const_cast<Control*>(control));
+  // A constant control may well stand on a form that changes.
+  return dynamic_cast<Form*>(
+      const_cast<Control*>(control));  // NOLINT(cppcoreguidelines-pro-type-const-cast)
 }
 
 void Control::PlaceIn(Control* container) {

@@ -93,7 +93,7 @@ class Control {
 
   std::string name_;
   int index_;
-  Control* container_;
+  Control* container_ = nullptr;
   std::string caption_;
   std::string tool_tip_;
   bool enabled_ = true;

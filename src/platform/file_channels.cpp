@@ -1,6 +1,5 @@
 #include "platform/file_channels.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <limits>
 #include <utility>
@@ -15,6 +14,12 @@ constexpr char kQuote = '"';
 constexpr char kComma = ',';
 constexpr std::string_view kDelimiters = ",\r\n";
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::size_t kBlockSize = 0x40000;
+
+constexpr auto kFindQuote = [](std::string_view text) { return text.find(kQuote); };
+constexpr auto kFindDelimiter = [](std::string_view text) {
+  return text.find_first_of(kDelimiters);
+};
 
 template <typename Number>
 Number Narrow(std::int64_t value) {
@@ -25,6 +30,88 @@ Number Narrow(std::int64_t value) {
 }
 
 }  // namespace
+
+void FileItem::AppendTo(std::string& line) const {
+  if (const auto* const number = std::get_if<std::int64_t>(&value_)) {
+    line += std::to_string(*number);
+  } else {
+    line += kQuote;
+    line += std::get<std::string_view>(value_);
+    line += kQuote;
+  }
+}
+
+bool FileChannels::File::Open(const std::string& path, std::ios::openmode mode) {
+  const std::filesystem::path file(std::u8string(path.begin(), path.end()));
+  return buffer_.open(file, mode | std::ios::binary) != nullptr;
+}
+
+bool FileChannels::File::Close() {
+  const bool written = WriteBlock();
+  return buffer_.close() != nullptr && written;
+}
+
+bool FileChannels::File::WriteLine(std::initializer_list<FileItem> items) {
+  const std::size_t line_start = written_.size();
+  for (const FileItem& item : items) {
+    if (written_.size() > line_start) written_ += kComma;
+    item.AppendTo(written_);
+  }
+  written_ += kLineEnd;
+  return written_.size() < kBlockSize || WriteBlock();
+}
+
+bool FileChannels::File::WriteBlock() {
+  const auto size = static_cast<std::streamsize>(written_.size());
+  const bool written = buffer_.sputn(written_.data(), size) == size;
+  written_.clear();
+  return written;
+}
+
+void FileChannels::File::ReadBlock() {
+  read_.resize(kBlockSize);
+  const std::streamsize size = buffer_.sgetn(read_.data(), kBlockSize);
+  read_.resize(static_cast<std::size_t>(size));
+  taken_ = 0;
+}
+
+bool FileChannels::File::AtEnd() {
+  if (taken_ == read_.size()) ReadBlock();
+  return taken_ == read_.size();
+}
+
+bool FileChannels::File::TakeIf(char c) {
+  if (AtEnd() || read_[taken_] != c) return false;
+  ++taken_;
+  return true;
+}
+
+template <typename Find>
+std::string FileChannels::File::TakeUntil(const Find& find) {
+  std::string text;
+  while (!AtEnd()) {
+    const std::string_view ahead = std::string_view(read_).substr(taken_);
+    const std::size_t end = find(ahead);
+    text += ahead.substr(0, end);
+    if (end != std::string_view::npos) {
+      taken_ += end;
+      break;
+    }
+    taken_ = read_.size();
+  }
+  return text;
+}
+
+std::string FileChannels::File::TakeItem() {
+  if (AtEnd()) throw Failure(ErrorNumber::kPastEndOfFile);
+  const bool quoted = TakeIf(kQuote);
+  std::string item = quoted ? TakeUntil(kFindQuote) : TakeUntil(kFindDelimiter);
+  if (quoted) TakeIf(kQuote);
+  if (TakeIf(kComma)) return item;
+  TakeIf('\r');
+  TakeIf('\n');
+  return item;
+}
 
 void FileChannels::OpenOutput(int channel, const std::string& path) {
   Open(channel, path, std::ios::out | std::ios::trunc);
@@ -37,10 +124,7 @@ void FileChannels::OpenInput(int channel, const std::string& path) {
 void FileChannels::Open(int channel, const std::string& path, std::ios::openmode mode) {
   if (IsOpen(channel)) throw Failure(ErrorNumber::kChannelOpen);
   File file;
-  if (file.open(std::filesystem::path(std::u8string(path.begin(), path.end())),
-                mode | std::ios::binary) == nullptr) {
-    throw Failure(ErrorNumber::kFileNotFound);
-  }
+  if (!file.Open(path, mode)) throw Failure(ErrorNumber::kFileNotFound);
   files_.emplace(channel, std::move(file));
 }
 
@@ -49,7 +133,14 @@ void FileChannels::Close(int channel) {
   if (found == files_.end()) return;
   File file = std::move(found->second);
   files_.erase(found);
-  if (file.close() == nullptr) throw Failure(ErrorNumber::kWriteFailed);
+  if (!file.Close()) throw Failure(ErrorNumber::kWriteFailed);
+}
+
+void FileChannels::Abandon(int channel) {
+  const auto found = files_.find(channel);
+  if (found == files_.end()) return;
+  found->second.Close();
+  files_.erase(found);
 }
 
 FileChannels::File& FileChannels::FileOn(int channel) {
@@ -58,65 +149,8 @@ FileChannels::File& FileChannels::FileOn(int channel) {
   return found->second;
 }
 
-void FileItem::AppendTo(std::string& line) const {
-  if (const auto* const number = std::get_if<std::int64_t>(&value_)) {
-    line += std::to_string(*number);
-  } else {
-    line += kQuote;
-    line += std::get<std::string_view>(value_);
-    line += kQuote;
-  }
-}
-
 void FileChannels::WriteLine(int channel, std::initializer_list<FileItem> items) {
-  File& file = FileOn(channel);
-  line_.clear();
-  for (const FileItem& item : items) {
-    if (!line_.empty()) line_ += kComma;
-    item.AppendTo(line_);
-  }
-  line_ += kLineEnd;
-  const auto length = static_cast<std::streamsize>(line_.size());
-  if (file.sputn(line_.data(), length) != length) throw Failure(ErrorNumber::kWriteFailed);
-}
-
-std::string_view FileChannels::File::Ahead() {
-  if (gptr() == egptr()) underflow();
-  return {gptr(), egptr()};
-}
-
-bool FileChannels::File::SkipIf(char c) {
-  const std::string_view ahead = Ahead();
-  if (ahead.empty() || ahead.front() != c) return false;
-  Skip(1);
-  return true;
-}
-
-template <typename Find>
-std::string FileChannels::File::TakeUntil(const Find& find) {
-  std::string taken;
-  for (std::string_view ahead = Ahead(); !ahead.empty(); ahead = Ahead()) {
-    const std::size_t end = std::min(find(ahead), ahead.size());
-    taken.append(ahead, 0, end);
-    Skip(end);
-    if (end < ahead.size()) break;
-  }
-  return taken;
-}
-
-std::string FileChannels::File::TakeItem() {
-  if (Ahead().empty()) throw Failure(ErrorNumber::kPastEndOfFile);
-  std::string item;
-  if (SkipIf(kQuote)) {
-    item = TakeUntil([](std::string_view ahead) { return ahead.find(kQuote); });
-    SkipIf(kQuote);
-  } else {
-    item = TakeUntil([](std::string_view ahead) { return ahead.find_first_of(kDelimiters); });
-  }
-  if (SkipIf(kComma)) return item;
-  SkipIf('\r');
-  SkipIf('\n');
-  return item;
+  if (!FileOn(channel).WriteLine(items)) throw Failure(ErrorNumber::kWriteFailed);
 }
 
 std::string FileChannels::ReadText(int channel) {

@@ -3,6 +3,7 @@
 #ifndef QUILLA_PLATFORM_FILE_CHANNELS_H_
 #define QUILLA_PLATFORM_FILE_CHANNELS_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <fstream>
 #include <initializer_list>
@@ -37,7 +38,7 @@ class FileChannels {
   /// take all that was written; the channel is closed even then.
   void Close(int channel);
   /// Closes the channel whatever has become of the file; for clean-ups after a failure.
-  void Abandon(int channel) { files_.erase(channel); }
+  void Abandon(int channel);
   bool IsOpen(int channel) const { return files_.contains(channel); }
 
   /// Writes items on one line, with commas between them and CR LF behind.
@@ -54,27 +55,38 @@ class FileChannels {
   std::int32_t ReadNumber32(int channel);
 
  private:
-  /// A file whose next characters can be looked at before they are taken.
-  class File : public std::filebuf {
+  /// A file that is read and written in great blocks.
+  class File {
    public:
-    /// The characters ahead, as many as are at hand; none at the end of the file only.
-    std::string_view Ahead();
-    /// Takes characters that have been seen ahead.
-    void Skip(std::size_t count) { gbump(static_cast<int>(count)); }
+    /// False where the file cannot be opened.
+    bool Open(const std::string& path, std::ios::openmode mode);
+    /// Adds a line of items. False when the disk does not take what is written.
+    bool WriteLine(std::initializer_list<FileItem> items);
+    /// Takes the next item with its quotes and its delimiter, and gives what it holds.
+    std::string TakeItem();
+    /// Writes what has been added since the last block, and closes. False as WriteLine.
+    bool Close();
+
+   private:
+    bool WriteBlock();
+    void ReadBlock();
+    bool AtEnd();
     /// Takes the next character if it is this one.
-    bool SkipIf(char c);
+    bool TakeIf(char c);
     /// Takes the characters before the one that `find` finds, or all up to the end of the file.
     template <typename Find>
     std::string TakeUntil(const Find& find);
-    /// Takes the next item with its quotes and its delimiter, and gives what it holds.
-    std::string TakeItem();
+
+    std::filebuf buffer_;
+    std::string written_;    // the block that is not on the disk yet
+    std::string read_;       // the block that was read last
+    std::size_t taken_ = 0;  // how much of it has been taken
   };
 
   File& FileOn(int channel);
   void Open(int channel, const std::string& path, std::ios::openmode mode);
 
   std::map<int, File> files_;
-  std::string line_;  // being written
 };
 
 }  // namespace quilla

@@ -6,9 +6,16 @@
 #include "platform/failure.h"
 
 namespace quilla {
+namespace {
+
+constexpr int kNoWidth = -1;
+
+}  // namespace
 
 Grid::Grid(Control* container, std::string name, int columns)
-    : Control(container, std::move(name)), columns_(columns) {}
+    : Control(container, std::move(name)), columns_(columns) {
+  widths_.fill(kNoWidth);
+}
 
 Grid::~Grid() = default;
 

@@ -112,7 +112,8 @@ class Grid : public Control {
   GridPointer pointer() const { return pointer_; }
   void set_pointer(GridPointer pointer) { Change(pointer_, pointer, Property::kPointer); }
 
-  /// Widths in 1/1440 inch, and alignment codes: 1 left, 3 and 4 centre.
+  /// Widths in 1/1440 inch, 0 for a column out of sight and negative where none was given; and
+  /// alignment codes: 1 left, 3 and 4 centre.
   int ColWidth(int column) const { return widths_.at(static_cast<std::size_t>(column)); }
   int ColAlignment(int column) const { return alignments_.at(static_cast<std::size_t>(column)); }
   void SetColWidth(int column, int twips);
@@ -137,6 +138,7 @@ class Grid : public Control {
 
   const Cell& CellAt(int row, int column) const;
   Cell& CellAt(int row, int column) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the grid is not constant here
     return const_cast<Cell&>(static_cast<const Grid*>(this)->CellAt(row, column));
   }
   std::vector<Cell>::iterator StartOf(int row) {

@@ -42,8 +42,9 @@ void TextList::Remove(int position) {
 void TextList::RemoveMarked(const std::vector<bool>& doomed) {
   for (int position = Count() - 1; position >= 0; --position) {
     if (static_cast<std::size_t>(position) < doomed.size() &&
-        doomed[static_cast<std::size_t>(position)])
+        doomed[static_cast<std::size_t>(position)]) {
       AboutToRemove(position);
+    }
   }
   std::size_t kept = 0;
   for (std::size_t position = 0; position < items_.size(); ++position) {

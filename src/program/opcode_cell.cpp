@@ -36,12 +36,18 @@ int OpcodeOf(std::string_view cell) { return static_cast<int>(HexValue(ByteAt(ce
 
 std::string OpcodeCell(int opcode) { return PaddedHexText(opcode, kByteDigits); }
 
+std::string VariableBytes(std::string_view byte) { return std::string(kBetweenBytes).append(byte); }
+
+std::string LabelBytes(std::string_view address) {
+  return VariableBytes(Part(address, kDigits)) + VariableBytes(Part(address, 0));
+}
+
 std::string WithVariable(std::string_view cell, std::string_view byte) {
-  return std::string(ByteAt(cell, 0)).append(kBetweenBytes).append(byte);
+  return std::string(ByteAt(cell, 0)) + VariableBytes(byte);
 }
 
 std::string WithLabel(std::string_view cell, std::string_view address) {
-  return WithVariable(cell, Part(address, kDigits)).append(kBetweenBytes).append(Part(address, 0));
+  return std::string(ByteAt(cell, 0)) + LabelBytes(address);
 }
 
 std::string AddressIn(std::string_view cell) {

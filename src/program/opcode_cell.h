@@ -29,6 +29,10 @@ int OpcodeOf(std::string_view cell);
 
 /// The cell of an opcode alone.
 std::string OpcodeCell(int opcode);
+/// What an operand adds to the cell of an opcode: one byte, or an address of four digits with its
+/// low byte first, with blanks in front.
+std::string VariableBytes(std::string_view byte);
+std::string LabelBytes(std::string_view address);
 /// The opcode of `cell` with one operand byte behind it.
 std::string WithVariable(std::string_view cell, std::string_view byte);
 /// The opcode of `cell` with an address of four digits behind it, low byte first.

@@ -63,7 +63,7 @@ struct LabelRecord {
 };
 
 struct Session {
-  explicit Session(Outside& outside);
+  explicit Session(Outside& world);
 
   Outside& outside;
   Form ProgrammingPanel{"ProgrammingPanel"};

@@ -48,7 +48,7 @@ inline std::string PadWord(std::string text) {
 struct Step {
   Machine& machine;
   WatchTables& tables;
-  int Op;
+  int Op = 0;
   /// The flags that the step rewrites, and what becomes of the carries among them. Zero, Sign and
   /// Parity are those of Result.
   unsigned FlagMask = 0;

@@ -33,8 +33,8 @@ WatchWindowDialog::WatchWindowDialog(std::function<void(const std::string&)> sho
               Button(&form_, "IButton", kLowLevel, kRowRst65),
               Button(&form_, "IButton", kLowLevel, kRowRst55),
               Button(&form_, "IButton", kLowLevel, kRowIntr)},
-      arrows_{Control(&form_, "TRAP"), Control(&form_, "RST75"), Control(&form_, "RST65"),
-              Control(&form_, "RST55"), Control(&form_, "INTR")},
+      arrows_{Box(&form_, "TRAP"), Box(&form_, "RST75"), Box(&form_, "RST65"), Box(&form_, "RST55"),
+              Box(&form_, "INTR")},
       NUM(&AddrBox, "NUM", [this](int digit) { NUM_Click(digit); }) {
   form_.set_caption("Watch Window");
   form_.Unload = [this] { Form_Unload(); };

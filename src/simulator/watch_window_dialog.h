@@ -56,7 +56,7 @@ class WatchWindowDialog {
 
   // The keys of the interrupt lines, by row of their table, and the arrows from key to table.
   std::array<Button, kLines> IButton;
-  std::array<Control, kLines> arrows_;
+  std::array<Box, kLines> arrows_;
 
   Label PortAddrCaption{&form_, "PortAddrCaption", "Address"};
   ComboBox PortAddrList{&form_, "PortAddrList"};

@@ -118,6 +118,7 @@ void AddressAssignment::CheckOverlaps() {
   if (session_.OriginList.Count() < 2) return;
   session_.AddressError = false;
   std::vector<Block> blocks;
+  blocks.reserve(session_.OriginList.items().size());
   for (int i = 0; i < session_.OriginList.Count(); ++i) {
     blocks.push_back(
         {AddressValue(session_.OriginList[i]), AddressValue(session_.LastAddressList[i])});

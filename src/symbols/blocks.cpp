@@ -12,6 +12,7 @@ bool Contains(const Block& block, std::int32_t address) {
 /// Whether any two blocks might overlap: a quick test that is never wrong when it says no.
 bool MayOverlap(const std::vector<Block>& blocks) {
   std::vector<Block> sorted;
+  sorted.reserve(blocks.size());
   for (const auto& [first, last] : blocks) {
     sorted.push_back({std::min(first, last), std::max(first, last)});
   }

@@ -88,7 +88,7 @@ void LabelEntry::WriteOperand(const std::string& label, const std::string& equiv
   table.SetTextMatrix(row, kMnemonicColumn, table.TextMatrix(row, kMnemonicColumn) + "  " + label);
   session_.StringTable.SetTextMatrix(row, 0, label);
   table.SetTextMatrix(row, kOpcodeColumn,
-                      WithLabel(table.TextMatrix(row, kOpcodeColumn), equivalent));
+                      table.TextMatrix(row, kOpcodeColumn) + LabelBytes(equivalent));
 }
 
 }  // namespace quilla

@@ -76,6 +76,7 @@ void EquivalentsPage::Load(const TextList& names, const TextList& equivalents) {
   EditBox.Hide();
   NameLabel.set_caption({});
   Display.set_caption(zero_);
+  AcceptButton.set_enabled(true);
 }
 
 void EquivalentsPage::AddDigit(int digit) {
@@ -133,6 +134,7 @@ void RenumberDialog::EqtOption_Click() {
 }
 
 void RenumberDialog::Form_Load() {
+  form_.set_default_button(nullptr);
   labels_.Load(session_.LabelCombo, session_.LabelEqtList);
   variables_.Load(session_.XXCombo, session_.XXEqtList);
   VariablesOption_.set_enabled(!session_.XXCombo.IsEmpty());

@@ -67,6 +67,10 @@ void StringLists::UpdateLabels() {
     session_.LabelLineList.Set(i, placed ? std::to_string(place->second) : kNoFlag);
     session_.LabelUsedList.Set(i, operands.contains(label) ? kYesFlag : kNoFlag);
   }
+  CopyLabels();
+}
+
+void StringLists::CopyLabels() {
   for (ComboBox* copy : {&session_.FindCombo, &session_.PlaceCombo, &session_.ReplaceCombo}) {
     copy->Assign(session_.LabelCombo.items());
   }
@@ -84,8 +88,8 @@ void StringLists::DeleteUnusedLabels_Click() {
         &session_.LabelPlacedList, &session_.LabelLineList, &session_.LabelEqtList}) {
     list->RemoveMarked(unused);
   }
+  CopyLabels();
   DeleteUnusedVariables();
-  UpdateLabels();
   session_.ShowInformation("Unused strings have been deleted.");
   states_.ReturnToReady();
 }

@@ -33,6 +33,8 @@ class StringLists {
   void DeleteUnusedLabels_Click();
 
  private:
+  /// Gives the find, place and replace tools the labels as they are now.
+  void CopyLabels();
   void DeleteUnusedVariables();
 
   Session& session_;

@@ -1,5 +1,6 @@
 #include "symbols/variable_entry.h"
 
+#include "platform/number_text.h"
 #include "program/opcode_cell.h"
 #include "symbols/string_inputs.h"
 
@@ -119,7 +120,8 @@ void VariableEntry::WriteOperand(const std::string& variable, const std::string&
                       table.TextMatrix(row, kMnemonicColumn) + "   " + variable);
   session_.StringTable.SetTextMatrix(row, 0, variable);
   table.SetTextMatrix(row, kOpcodeColumn,
-                      WithVariable(table.TextMatrix(row, kOpcodeColumn), equivalent));
+                      table.TextMatrix(row, kOpcodeColumn) +
+                          VariableBytes(std::string_view(equivalent).substr(0, kByteDigits)));
 }
 
 }  // namespace quilla

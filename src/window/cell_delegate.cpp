@@ -106,14 +106,9 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   if (index.row() >= grid_.Rows()) return;
   // The view has filled the ground of a selected row.
   const bool selected = option.state.testFlag(QStyle::State_Selected);
-  Look look = LookOf(grid_.BackColor(index.row(), index.column()),
-                     grid_.ForeColor(index.row(), index.column()), option.palette,
-                     selected ? QPalette::HighlightedText : QPalette::Text);
-  if (index.row() < grid_.FixedRows()) {
-    look.back = option.palette.color(QPalette::Button);
-    look.fore = option.palette.color(QPalette::ButtonText);
-    look.bold = true;
-  }
+  const Look look = LookOf(grid_.BackColor(index.row(), index.column()),
+                           grid_.ForeColor(index.row(), index.column()), option.palette,
+                           selected ? QPalette::HighlightedText : QPalette::Text);
   painter->save();
   if (look.back) painter->fillRect(option.rect, *look.back);
   if (look.back && selected) {

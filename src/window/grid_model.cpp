@@ -50,6 +50,12 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
   return {};
 }
 
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  const bool is_heading = orientation == Qt::Horizontal && role == Qt::DisplayRole &&
+                          grid_.FixedRows() > 0 && grid_.Rows() > 0;
+  return is_heading ? ToQt(grid_.TextMatrix(0, section)) : QVariant();
+}
+
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
   return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
                          : Qt::NoItemFlags;
@@ -116,7 +122,9 @@ void GridModel::ReportTouchedRows() {
   if (touched_first_ == kNone) return;
   const int first = std::exchange(touched_first_, kNone);
   const int last = std::min(touched_last_, row_count_ - 1);
-  if (first <= last) Q_EMIT dataChanged(index(first, 0), index(last, grid_.Cols() - 1));
+  if (first > last) return;
+  Q_EMIT dataChanged(index(first, 0), index(last, grid_.Cols() - 1));
+  if (first < grid_.FixedRows()) Q_EMIT headerDataChanged(Qt::Horizontal, 0, grid_.Cols() - 1);
 }
 
 }  // namespace quilla

@@ -21,6 +21,7 @@ class GridModel : public QAbstractTableModel, public GridObserver {
   int rowCount(const QModelIndex& parent) const override;
   int columnCount(const QModelIndex& parent) const override;
   QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
   const Grid& grid() const { return grid_; }

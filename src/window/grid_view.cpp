@@ -21,7 +21,7 @@ constexpr int kUsualTwips = 1080;
 constexpr int kRowsAhead = 2;
 
 int TwipsOf(const Grid& grid, int column) {
-  return grid.ColWidth(column) > 0 ? grid.ColWidth(column) : kUsualTwips;
+  return grid.ColWidth(column) >= 0 ? grid.ColWidth(column) : kUsualTwips;
 }
 
 }  // namespace
@@ -30,7 +30,7 @@ GridView::GridView(Gate& gate, Grid& grid, QWidget* parent)
     : QTableView(parent), gate_(gate), grid_(grid) {
   auto* const model = new GridModel(grid, this);
   setItemDelegate(new CellDelegate(grid, this));
-  horizontalHeader()->hide();
+  SetUpHeading();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setMinimumSectionSize(1);
   verticalHeader()->hide();
@@ -47,8 +47,34 @@ GridView::GridView(Gate& gate, Grid& grid, QWidget* parent)
   viewport()->setMouseTracking(true);
   FitRows();
   setModel(model);
+  HideHeadingRows();
+  connect(model, &GridModel::rowsInserted, this, &GridView::HideHeadingRows);
   connect(model, &GridModel::CursorTouched, this, &GridView::KeepInView);
   connect(&gate_, &Gate::Left, this, &GridView::SyncWithGrid);
+}
+
+// Rows that are headings stand in the header, where they stay when the rest scrolls.
+void GridView::SetUpHeading() {
+  QHeaderView& heading = *horizontalHeader();
+  heading.setVisible(grid_.FixedRows() > 0);
+  heading.setHighlightSections(false);
+  heading.setSectionsClickable(true);
+  QFont font = heading.font();
+  font.setBold(true);
+  heading.setFont(font);
+  connect(&heading, &QHeaderView::sectionClicked, this, [this](int column) {
+    gate_.Enter([&] {
+      grid_.PressCell(0, column);
+      grid_.ReleaseAt(0);
+      grid_.ClickCell();
+    });
+  });
+}
+
+void GridView::HideHeadingRows() {
+  for (int row = 0; row < std::min(grid_.FixedRows(), grid_.Rows()); ++row) {
+    setRowHidden(row, true);
+  }
 }
 
 std::vector<int> GridView::ColumnWidths() const {
@@ -60,6 +86,7 @@ std::vector<int> GridView::ColumnWidths() const {
 
 void GridView::FitRows() {
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
+  horizontalHeader()->setFixedHeight(fontMetrics().height() + kRowPadding);
 }
 
 void GridView::LayOutColumns() {
@@ -71,6 +98,7 @@ void GridView::LayOutColumns() {
   int left = room;
   for (int column = 0; column + 1 < grid_.Cols(); ++column) {
     const int width = qRound(TwipsOf(grid_, column) * scale);
+    setColumnHidden(column, width == 0);
     setColumnWidth(column, width);
     left -= width;
   }

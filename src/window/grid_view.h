@@ -39,6 +39,8 @@ class GridView : public QTableView {
   void changeEvent(QEvent* event) override;
 
  private:
+  void SetUpHeading();
+  void HideHeadingRows();
   void LayOutColumns();
   void FitRows();
   void ShowRows(int from, int to);

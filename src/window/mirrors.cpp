@@ -54,6 +54,16 @@ ButtonMirror::ButtonMirror(Gate& gate, Button& button, QAbstractButton& widget)
           [this] { gate_.Enter([this] { Dispatch(button_.MouseUp); }); });
   connect(&widget, &QAbstractButton::clicked, this,
           [this] { gate_.Enter([this] { Dispatch(button_.Click); }); });
+  if (button_.MouseDown || button_.MouseUp) widget.installEventFilter(this);
+}
+
+bool ButtonMirror::eventFilter(QObject* /*watched*/, QEvent* event) {
+  const bool press =
+      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+  if (!press && event->type() != QEvent::MouseButtonRelease) return false;
+  if (static_cast<const QMouseEvent*>(event)->button() != Qt::RightButton) return false;
+  gate_.Enter([&] { Dispatch(press ? button_.MouseDown : button_.MouseUp); });
+  return true;
 }
 
 void ButtonMirror::Refresh(Property property) {

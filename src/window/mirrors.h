@@ -42,6 +42,8 @@ class WidgetMirror : public QObject, public ControlObserver {
 class ButtonMirror final : public WidgetMirror {
  public:
   ButtonMirror(Gate& gate, Button& button, QAbstractButton& widget);
+  /// A button that acts while it is held takes the right mouse button like the left one.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
   void Refresh(Property property) override;

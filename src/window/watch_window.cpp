@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <vector>
 
 #include "window/keypad.h"
 
@@ -14,33 +13,16 @@ constexpr int kGap = 14;
 constexpr int kRegisterWidth = 26;
 constexpr int kCellWidth = 24;
 constexpr int kLineWidth = 24;
-constexpr int kInstructionWidth = 56;
-constexpr int kFirstLine = 1;
-constexpr int kLastLine = 5;
+constexpr int kInstructionWidth = 50;
 constexpr int kInterruptRows = 7;
 constexpr int kTallRows = 20;
 
 /// Makes a table as high as its heading and so many rows.
 void ShowRows(GridView& table, int rows) {
   const int row_height = table.verticalHeader()->defaultSectionSize();
-  const int heading = table.horizontalHeader()->sizeHint().height();
+  const int heading = table.horizontalHeader()->minimumHeight();
   table.setFixedHeight(heading + rows * row_height + 2 * table.frameWidth());
   table.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-}
-
-/// The keys, each on the level of its row of the table, with an arrow to the table.
-QLayout* StandBeside(const GridView& table, const std::vector<QWidget*>& keys) {
-  auto* const grid = new QGridLayout;
-  grid->setSpacing(0);
-  grid->setRowMinimumHeight(0, table.horizontalHeader()->sizeHint().height() + table.frameWidth());
-  int row = 1;
-  for (QWidget* key : keys) {
-    key->setFixedHeight(table.verticalHeader()->defaultSectionSize());
-    grid->addWidget(new QLabel(QStringLiteral(" \u25C0 "), key->parentWidget()), row, 0);
-    grid->addWidget(key, row++, 1);
-  }
-  grid->setRowStretch(row, 1);
-  return grid;
 }
 
 }  // namespace
@@ -73,7 +55,6 @@ GridView* WatchWindow::MakeTable(const char* name, int width_in_digits) {
 
 QLayout* WatchWindow::MakeInstruction() {
   GridView* const table = MakeTable("InstructionTable", kInstructionWidth);
-  table->setColumnHidden(0, true);
   ShowRows(*table, 1);
   auto* const line = new QHBoxLayout;
   line->setSpacing(kGap);
@@ -86,8 +67,9 @@ QLayout* WatchWindow::MakeInstruction() {
   return column;
 }
 
-QBoxLayout* WatchWindow::MakeTall(const char* caption, const char* name, int width_in_digits) {
-  GridView* const table = MakeTable(name, width_in_digits);
+QBoxLayout* WatchWindow::MakeTall(const char* caption, const char* table_name,
+                                  int width_in_digits) {
+  GridView* const table = MakeTable(table_name, width_in_digits);
   table->setMinimumHeight(kTallRows * table->verticalHeader()->defaultSectionSize());
   auto* const column = new QVBoxLayout;
   column->addWidget(make_.MakeBold(caption));
@@ -97,31 +79,49 @@ QBoxLayout* WatchWindow::MakeTall(const char* caption, const char* name, int wid
 
 QLayout* WatchWindow::MakePorts() {
   auto* const column = MakeTall("PortCaption", "PortTable", kCellWidth);
-  auto* const force = new QHBoxLayout;
-  for (const char* name : {"PortAddrCaption", "PortAddrList", "ValueCaption", "ValueList"}) {
-    force->addWidget(make_.Make(name));
-  }
+  auto* const force = new QGridLayout;
+  force->addWidget(make_.Make("PortAddrCaption"), 0, 0);
+  force->addWidget(make_.Make("ValueCaption"), 0, 1);
+  force->addWidget(make_.Make("PortAddrList"), 1, 0);
+  force->addWidget(make_.Make("ValueList"), 1, 1);
+  force->addWidget(make_.Make("ForceButton"), 2, 0, 1, 2);
   column->addLayout(force);
-  column->addWidget(make_.Make("ForceButton"));
   return column;
 }
 
 QLayout* WatchWindow::MakeLines() {
   GridView* const table = MakeTable("InterruptTable", kLineWidth);
-  std::vector<QWidget*> keys;
-  for (int line = kFirstLine; line <= kLastLine; ++line) {
-    keys.push_back(make_.Make("IButton", line, ButtonShape::kKey));
+  auto* const keys = new QGridLayout;
+  keys->setSpacing(0);
+  keys->setRowMinimumHeight(0, table->horizontalHeader()->minimumHeight() + table->frameWidth());
+  int line = 0;
+  for (const char* arrow : {"TRAP", "RST75", "RST65", "RST55", "INTR"}) {
+    // Each key stands on the level of its row.
+    QWidget* const key = make_.Make("IButton", ++line, ButtonShape::kKey);
+    key->setFixedHeight(key->sizeHint().height());
+    table->verticalHeader()->setDefaultSectionSize(key->height());
+    keys->addWidget(MakeArrow(arrow), line, 0);
+    keys->addWidget(key, line, 1);
   }
-  table->verticalHeader()->setDefaultSectionSize(keys.front()->sizeHint().height());
+  keys->setRowStretch(line + 1, 1);
   ShowRows(*table, kInterruptRows);
   auto* const row = new QHBoxLayout;
   row->setSpacing(0);
   row->addWidget(table);
-  row->addLayout(StandBeside(*table, keys));
+  row->addLayout(keys);
   auto* const column = new QVBoxLayout;
   column->addWidget(make_.MakeBold("InterruptCaption"));
   column->addLayout(row);
   return column;
+}
+
+QWidget* WatchWindow::MakeArrow(const char* name) {
+  auto* const arrow = new QWidget(this);
+  auto* const layout = new QHBoxLayout(arrow);
+  layout->setContentsMargins(4, 0, 4, 0);
+  layout->addWidget(new QLabel(QStringLiteral("\u25C0"), arrow));
+  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find(name)), *arrow);
+  return arrow;
 }
 
 QWidget* WatchWindow::MakeStartingAddress() {

@@ -20,9 +20,11 @@ class WatchWindow : public QWidget {
  private:
   QLayout* MakeInstruction();
   /// A table that scrolls in the window's height, under its caption.
-  QBoxLayout* MakeTall(const char* caption, const char* table, int width_in_digits);
+  QBoxLayout* MakeTall(const char* caption, const char* table_name, int width_in_digits);
   QLayout* MakePorts();
   QLayout* MakeLines();
+  /// The arrow from the key of an interrupt line to its row.
+  QWidget* MakeArrow(const char* name);
   QWidget* MakeStartingAddress();
   GridView* MakeTable(const char* name, int width_in_digits);
 

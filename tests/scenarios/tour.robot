@@ -201,3 +201,63 @@ Table1 5 "stop" "8008" "JMP  stop" "C3   08   80" "Jump to address pointed by 's
 > list HexList
 HexList 0 ":0B8000003E05060780325080C3088058"
 HexList 1 ":00000001FF"
+# The places that a label could be replaced in, one of them selected.
+> click ReplaceLabel
+> cell Table1 5 2
+# picture 08-replace
+> state
+PanelState 24
+CurrentRow 6
+LastLine 5
+Rows 32
+FileOrigin 1
+FileChanged 1
+EntryPending 0
+SelectionTop 6
+SelectionBottom 6
+PortOpen 0
+AddressError 0
+FileName "Pgm1.baf"
+EntryMode "Data &Mode"
+WriteModeLabel "Overwrite"
+TipsLabel "Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
+Title "Brelvanor Quilla - Pgm1.baf"
+MessageResult "1"
+Boxes ReplaceBox
+> escape
+# The program in the simulator, three instructions on.
+> click SimulationView
+> settle
+open WatchWindowDialog
+> key WatchWindowDialog.AcceptButton 8000
+> click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton
+# picture 09-simulator
+> state
+PanelState 1
+CurrentRow 6
+LastLine 5
+Rows 32
+FileOrigin 1
+FileChanged 1
+EntryPending 0
+SelectionTop 6
+SelectionBottom 6
+PortOpen 0
+AddressError 0
+FileName "Pgm1.baf"
+EntryMode "Data &Mode"
+WriteModeLabel "Overwrite"
+TipsLabel "Preparing for simulation..."
+Title "Brelvanor Quilla - Pgm1.baf"
+MessageResult "1"
+Boxes InstructionBox
+> dump WatchWindowDialog.RegisterTable 1 2
+WatchWindowDialog.RegisterTable 1 "A" "0C"
+WatchWindowDialog.RegisterTable 2 "B" "07"
+> dump WatchWindowDialog.InstructionTable 1
+WatchWindowDialog.InstructionTable 1 "" "8005" "STA   8050h" "32   50   80"
+> close WatchWindowDialog
+closed WatchWindowDialog

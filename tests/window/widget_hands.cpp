@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QTest>
 #include <exception>
@@ -143,6 +144,13 @@ void WidgetHands::Pick(ComboBox& list, int position) {
 
 void WidgetHands::Drag(Grid& grid, Cell from, Cell to) {
   auto& view = dynamic_cast<GridView&>(WidgetOf(grid));
+  if (from.row < grid.FixedRows()) {
+    const QHeaderView& heading = *view.horizontalHeader();
+    const QPoint place(heading.sectionViewportPosition(from.column) + 1, heading.height() / 2);
+    QTest::mouseClick(heading.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    Settle();
+    return;
+  }
   QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, PlaceOf(view, from));
   const QPoint end = PlaceOf(view, to);
   MovePointer(*view.viewport(), end, Qt::LeftButton);

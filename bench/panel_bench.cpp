@@ -33,14 +33,13 @@ int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(
 
 void BM_AssignAddress(benchmark::State& state) {
   Parts parts(RowsOf(state));
-  Run(state, {PassOver(parts.session.Table1)}, Nothing,
-      [&] { parts.addresses.Assign_Address(true); });
+  Run(state, {PassOver(parts.session)}, Nothing, [&] { parts.addresses.Assign_Address(true); });
 }
 BENCHMARK(BM_AssignAddress)->Apply(OverTableSizes);
 
 void BM_UpdateLabels(benchmark::State& state) {
   Parts parts(RowsOf(state));
-  Run(state, {PassOver(parts.session.Table1)}, Nothing, [&] { parts.strings.UpdateLabels(); });
+  Run(state, {PassOver(parts.session)}, Nothing, [&] { parts.strings.UpdateLabels(); });
 }
 BENCHMARK(BM_UpdateLabels)->Apply(OverTableSizes);
 
@@ -51,7 +50,7 @@ void BM_DeleteUnusedLabels(benchmark::State& state) {
   const int unused_labels = session.LabelCombo.Count() / 8;
   const int unused_variables = session.XXCombo.Count() / 8;
   Run(
-      state, {PassOver(session.Table1)},
+      state, {PassOver(session)},
       [&] {
         for (int i = 0; i < unused_labels; ++i) {
           session.AddLabel({.name = NumberedName('u', i),
@@ -74,7 +73,7 @@ void BM_InsertLine(benchmark::State& state) {
   Session& session = parts.session;
   const int row_count = session.Table1.Rows();
   Run(
-      state, {PassOver(session.Table1)}, [&] { parts.rows.SetRows(row_count); },
+      state, {PassOver(session)}, [&] { parts.rows.SetRows(row_count); },
       [&] { parts.rows.InsertLine(1, 1); });
 }
 BENCHMARK(BM_InsertLine)->Apply(OverTableSizes);
@@ -82,7 +81,7 @@ BENCHMARK(BM_InsertLine)->Apply(OverTableSizes);
 void BM_Assemble(benchmark::State& state) {
   Parts parts(RowsOf(state));
   parts.addresses.Assign_Address(true);
-  Run(state, {PassOver(parts.session.Table1)}, Nothing, [&] { parts.assembler.Assemble(); });
+  Run(state, {PassOver(parts.session)}, Nothing, [&] { parts.assembler.Assemble(); });
 }
 BENCHMARK(BM_Assemble)->Apply(OverTableSizes);
 
@@ -90,13 +89,12 @@ BENCHMARK(BM_Assemble)->Apply(OverTableSizes);
 void BM_EnterInstruction(benchmark::State& state) {
   PanelFixture panel(RowsOf(state));
   Session& session = panel.session();
-  auto& jump_key = panel.Find("INST", FindInstructionKey("JMP"));
-  auto& known = panel.Find<Option>("ExistingLabelOption");
-  auto& accept = panel.Find("LabelAcceptButton");
+  auto& jump_key = Find(panel.form(), "INST", FindInstructionKey("JMP"));
+  auto& known = Find<Option>(panel.form(), "ExistingLabelOption");
+  auto& accept = Find(panel.form(), "LabelAcceptButton");
   const int row = session.Table1.Rows() / 2 + 2;
   Run(
-      state, {PassOver(session.Table1)},
-      [&] { panel.ClickCell(session.Table1, row, kMnemonicColumn); },
+      state, {PassOver(session)}, [&] { panel.ClickCell(session.Table1, row, kMnemonicColumn); },
       [&] {
         panel.Click(jump_key);
         panel.Click(known);

@@ -26,6 +26,9 @@ inline constexpr double kMostTransfers = 5;
 /// Every sixteenth row has a jump, and every eighth a label.
 inline constexpr int kRowsPerGroup = 16;
 inline constexpr int kLabelsPerGroup = 2;
+/// The row of a group with its jump, and two of its rows without an instruction.
+inline constexpr int kJumpRow = 13;
+inline constexpr int kFreeRows[] = {5, 8};
 
 /// A name for a string: a letter and a number.
 std::string NumberedName(char letter, int number);
@@ -36,50 +39,55 @@ std::string NumberedName(char letter, int number);
 /// addresses from 1000h to FFFFh. Blocks are 1024 rows long.
 void FillProgram(Session& session, int rows);
 
-/// The program in a panel of its own, and the hands to work on it.
+/// A control of a form, which must have it.
+template <typename Model = Button>
+Model& Find(const Form& form, std::string_view name, int index = Control::kNoIndex) {
+  return dynamic_cast<Model&>(*form.Find(name, index));
+}
+
+/// The program in a panel of its own, its addresses assigned, and the hands to work on it.
 class PanelFixture {
  public:
   explicit PanelFixture(int rows);
 
   Session& session() { return panel_.session(); }
   robot::ScriptedOutside& outside() { return outside_; }
+  Form& form() { return panel_.form(); }
+  Form& dialog(std::string_view name);
 
-  /// A control of a form of the panel. It must be there.
-  template <typename Model = Button>
-  Model& Find(std::string_view name, int index = Control::kNoIndex) {
-    return dynamic_cast<Model&>(*FindControl(name, index));
-  }
   void Click(Control& control) { hands_.Click(control); }
   void ClickCell(Grid& grid, int row, int column) {
     hands_.Drag(grid, {row, column}, {row, column});
   }
+  /// Drags over the mnemonics of these rows.
+  void SelectRows(int first, int last);
   /// Assigns all addresses, as the menu command does.
   void AssignAddresses();
 
  private:
-  Control* FindControl(std::string_view name, int index);
-
   std::ostream transcript_{nullptr};
   robot::ScriptedOutside outside_{transcript_};
   ProgrammingPanel panel_{outside_.ports};
   robot::ModelHands hands_{outside_.event_loop};
 };
 
-/// Plain work that a task is held against: its least time is the unit, `most` of it the limit.
+/// Plain work that a task is held against: its time is the unit, `most` of it the limit.
 struct Measure {
   const char* counter;
   std::function<void()> work;
   double most;
+  int times = 1;  // so often is the work done to take its time, which the clock measures in 1 us
 };
 
-/// The pass over a table that reads every character of every cell.
-Measure PassOver(const Grid& table);
+/// The pass over a program that reads every character of every cell and of the operand strings.
+Measure PassOver(const Session& session);
 
 /// Times `task`, each time after an untimed `prepare`, and each measure beside it. The counter of
 /// a measure is the least time of the task in units of the least time of the measure; a label
-/// tells where it is over the limit.
+/// tells where it is over the limit. The benchmark fails unless `is_done` finds the task done.
 void Run(benchmark::State& state, const std::vector<Measure>& measures,
-         const std::function<void()>& prepare, const std::function<void()>& task);
+         const std::function<void()>& prepare, const std::function<void()>& task,
+         const std::function<bool()>& is_done);
 
 /// The tables that are measured, and the linear growth that is fitted to their times.
 void OverTableSizes(benchmark::internal::Benchmark* benchmark);

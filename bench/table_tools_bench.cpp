@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "panel_fixture.h"
 
@@ -30,16 +31,16 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::string bytes(std::filesystem::file_size(path), '\0');
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  return bytes;
+/// Reads a file as plainly as a stream reads lines; `take` is given each of them.
+template <typename Take>
+void ReadLines(const std::string& path, const Take& take) {
+  std::fstream file(path, std::ios::in | std::ios::binary);
+  for (std::string line; std::getline(file, line);) take(line);
 }
 
-void WriteBytes(const std::string& path, const std::string& bytes) {
-  std::ofstream file(path, std::ios::binary);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+void WriteLines(const std::string& path, const std::vector<std::string>& lines) {
+  std::fstream file(path, std::ios::out | std::ios::binary);
+  for (const std::string& line : lines) file << line;
 }
 
 void SaveUnder(Session& session, const std::string& path) {
@@ -48,16 +49,24 @@ void SaveUnder(Session& session, const std::string& path) {
   session.menu.SaveFile.Click();
 }
 
+// Both files are new ones each time: what it costs to empty an old one is the file system's affair.
 void BM_SaveFile(benchmark::State& state) {
   const TemporaryFolder folder;
   PanelFixture panel(RowsOf(state));
   Session& session = panel.session();
-  SaveUnder(session, folder.File("program.baf"));
-  const std::string bytes = BytesOf(folder.File("program.baf"));
-  const Measure plain{"x_fstream", [&] { WriteBytes(folder.File("plain"), bytes); },
-                      kMostTransfers};
+  const std::string path = folder.File("program.baf");
+  const std::string plain_path = folder.File("plain.baf");
+  SaveUnder(session, path);
+  std::vector<std::string> lines;
+  ReadLines(path, [&](const std::string& line) { lines.push_back(line + '\n'); });
+  const Measure plain{"x_fstream", [&] { WriteLines(plain_path, lines); }, kMostTransfers};
   Run(
-      state, {PassOver(session.Table1), plain}, [&] { panel.AssignAddresses(); },
+      state, {PassOver(session), plain},
+      [&] {
+        std::filesystem::remove(path);
+        std::filesystem::remove(plain_path);
+        panel.AssignAddresses();
+      },
       [&] { session.menu.SaveFile.Click(); });
 }
 BENCHMARK(BM_SaveFile)->Apply(OverTableSizes);
@@ -68,10 +77,10 @@ void BM_OpenFile(benchmark::State& state) {
   Session& session = panel.session();
   const std::string path = folder.File("program.baf");
   SaveUnder(session, path);
-  const Measure plain{"x_fstream", [&] { benchmark::DoNotOptimize(BytesOf(path).data()); },
-                      kMostTransfers};
+  const auto take = [](const std::string& line) { benchmark::DoNotOptimize(line.data()); };
+  const Measure plain{"x_fstream", [&] { ReadLines(path, take); }, kMostTransfers};
   Run(
-      state, {PassOver(session.Table1), plain},
+      state, {PassOver(session), plain},
       [&] {
         panel.AssignAddresses();
         panel.outside().file_dialogs.Queue(path);
@@ -79,6 +88,139 @@ void BM_OpenFile(benchmark::State& state) {
       [&] { session.menu.OpenFile.Click(); });
 }
 BENCHMARK(BM_OpenFile)->Apply(OverTableSizes);
+
+/// The first row of the group in the middle of the table.
+int MiddleOf(const benchmark::State& state) { return RowsOf(state) / 2; }
+
+/// Copies a tenth of the table to the clipboard, and moves the cursor to the middle.
+void CopyTenth(PanelFixture& panel, const benchmark::State& state) {
+  Session& session = panel.session();
+  panel.SelectRows(1, RowsOf(state) / 10);
+  panel.Click(session.menu.CopyEdit);
+  panel.ClickCell(session.Table1, MiddleOf(state), kMnemonicColumn);
+}
+
+/// Deletes the rows that have been pasted into the middle of the table.
+void DeletePasted(PanelFixture& panel, const benchmark::State& state) {
+  Session& session = panel.session();
+  const int pasted = session.Table1.Rows() - RowsOf(state);
+  if (pasted == 0) return;
+  panel.SelectRows(MiddleOf(state), MiddleOf(state) + pasted - 1);
+  panel.Click(session.menu.DeleteEdit);
+  panel.ClickCell(session.Table1, MiddleOf(state), kMnemonicColumn);
+}
+
+void BM_Paste(benchmark::State& state) {
+  PanelFixture panel(RowsOf(state));
+  CopyTenth(panel, state);
+  Run(
+      state, {PassOver(panel.session())}, [&] { DeletePasted(panel, state); },
+      [&] { panel.Click(panel.session().menu.PasteEdit); });
+}
+BENCHMARK(BM_Paste)->Apply(OverTableSizes);
+
+// The labels have other equivalents than when the rows were copied: each jump gets a new label.
+void BM_PasteRenaming(benchmark::State& state) {
+  PanelFixture panel(RowsOf(state));
+  Session& session = panel.session();
+  Run(
+      state, {PassOver(session)},
+      [&] {
+        DeletePasted(panel, state);
+        panel.Click(session.menu.DeleteUnusedLabels);
+        panel.AssignAddresses();
+        CopyTenth(panel, state);
+        session.NextLabelNumber = 1;
+        for (int i = 0; i < session.LabelEqtList.Count(); ++i) {
+          session.LabelEqtList.Set(i, kUnknownAddress);
+        }
+      },
+      [&] { panel.Click(session.menu.PasteEdit); });
+}
+BENCHMARK(BM_PasteRenaming)->Apply(OverTableSizes);
+
+void BM_FindLabel(benchmark::State& state) {
+  PanelFixture panel(RowsOf(state));
+  Session& session = panel.session();
+  auto& find = Find(panel.form(), "FindButton");
+  auto& done = Find(panel.form(), "FindDoneButton");
+  Run(
+      state, {PassOver(session)}, [&] { panel.Click(done); },
+      [&] {
+        panel.Click(session.menu.FindLabel);
+        session.FindCombo.Pick(session.FindCombo.Count() - 1);
+        panel.Click(find);
+      });
+}
+BENCHMARK(BM_FindLabel)->Apply(OverTableSizes);
+
+// One jump in eight is given the name of another label.
+void BM_ReplaceLabel(benchmark::State& state) {
+  PanelFixture panel(RowsOf(state));
+  Session& session = panel.session();
+  auto& known = Find<Option>(panel.form(), "ExistingReplaceOption");
+  auto& replace = Find(panel.form(), "ReplaceAcceptButton");
+  auto& done = Find(panel.form(), "ReplaceDoneButton");
+  int label = 0;
+  Run(
+      state, {PassOver(session)},
+      [&] {
+        panel.Click(done);
+        panel.Click(session.menu.ReplaceLabel);
+        for (int row = kJumpRow; row < session.Table1.Rows(); row += 8 * kRowsPerGroup) {
+          panel.ClickCell(session.Table1, row, kMnemonicColumn);
+        }
+        panel.Click(known);
+        session.ReplaceCombo.Pick(label ^= 1);
+      },
+      [&] { panel.Click(replace); });
+}
+BENCHMARK(BM_ReplaceLabel)->Apply(OverTableSizes);
+
+// A label moves from one row to another and back.
+void BM_PlaceLabel(benchmark::State& state) {
+  PanelFixture panel(RowsOf(state));
+  Session& session = panel.session();
+  auto& known = Find<Option>(panel.form(), "ExistingPlaceOption");
+  auto& place = Find(panel.form(), "PlaceAcceptButton");
+  auto& done = Find(panel.form(), "PlaceDoneButton");
+  std::size_t spot = 1;
+  Run(
+      state, {PassOver(session)},
+      [&] {
+        panel.Click(done);
+        panel.Click(session.menu.PlaceLabelTool);
+        panel.ClickCell(session.Table1, MiddleOf(state) + kEmptyRows[spot], kLabelColumn);
+        spot = 3 - spot;
+        panel.Click(known);
+        session.PlaceCombo.Pick(session.PlaceCombo.Count() / 2);
+        panel.outside().boxes.Queue(BoxAnswer::kYes);
+      },
+      [&] { panel.Click(place); });
+}
+BENCHMARK(BM_PlaceLabel)->Apply(OverTableSizes);
+
+// The whole visit to the dialog: it opens, one label gets another equivalent, and Done.
+void BM_ChangeEquivalent(benchmark::State& state) {
+  PanelFixture panel(RowsOf(state));
+  Session& session = panel.session();
+  const Form& dialog = panel.dialog("RenumberDialog");
+  auto& table = Find<Grid>(dialog, "LabelTable");
+  auto& accept = Find(dialog, "EqtAcceptButton");
+  auto& done = Find(dialog, "DoneButton");
+  int digit = 0;
+  panel.outside().event_loop.play_line = [&] {
+    digit = digit % 15 + 1;
+    panel.ClickCell(table, table.Rows() / 2, 0);
+    panel.Click(Find(dialog, "NUM", digit));
+    panel.Click(accept);
+    panel.Click(done);
+    return true;
+  };
+  Run(
+      state, {PassOver(session)}, [] {}, [&] { panel.Click(session.menu.EqtOption); });
+}
+BENCHMARK(BM_ChangeEquivalent)->Apply(OverTableSizes);
 
 }  // namespace
 }  // namespace quilla::bench

@@ -33,13 +33,19 @@ int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(
 
 void BM_AssignAddress(benchmark::State& state) {
   Parts parts(RowsOf(state));
-  Run(state, {PassOver(parts.session)}, Nothing, [&] { parts.addresses.Assign_Address(true); });
+  const Session& session = parts.session;
+  Run(
+      state, {PassOver(session)}, Nothing, [&] { parts.addresses.Assign_Address(true); },
+      [&] { return !session.AddressError && !session.LastAddressList.IsEmpty(); });
 }
 BENCHMARK(BM_AssignAddress)->Apply(OverTableSizes);
 
 void BM_UpdateLabels(benchmark::State& state) {
   Parts parts(RowsOf(state));
-  Run(state, {PassOver(parts.session)}, Nothing, [&] { parts.strings.UpdateLabels(); });
+  const Session& session = parts.session;
+  Run(
+      state, {PassOver(session)}, Nothing, [&] { parts.strings.UpdateLabels(); },
+      [&] { return session.LabelPlacedList.Find(kNoFlag) < 0; });
 }
 BENCHMARK(BM_UpdateLabels)->Apply(OverTableSizes);
 
@@ -47,7 +53,8 @@ BENCHMARK(BM_UpdateLabels)->Apply(OverTableSizes);
 void BM_DeleteUnusedLabels(benchmark::State& state) {
   Parts parts(RowsOf(state));
   Session& session = parts.session;
-  const int unused_labels = session.LabelCombo.Count() / 8;
+  const int labels = session.LabelCombo.Count();
+  const int unused_labels = labels / 8;
   const int unused_variables = session.XXCombo.Count() / 8;
   Run(
       state, {PassOver(session)},
@@ -64,7 +71,8 @@ void BM_DeleteUnusedLabels(benchmark::State& state) {
           session.XXEqtList.Add(kUnknownByte);
         }
       },
-      [&] { parts.strings.DeleteUnusedLabels_Click(); });
+      [&] { parts.strings.DeleteUnusedLabels_Click(); },
+      [&] { return session.LabelCombo.Count() == labels; });
 }
 BENCHMARK(BM_DeleteUnusedLabels)->Apply(OverTableSizes);
 
@@ -73,15 +81,22 @@ void BM_InsertLine(benchmark::State& state) {
   Session& session = parts.session;
   const int row_count = session.Table1.Rows();
   Run(
-      state, {PassOver(session)}, [&] { parts.rows.SetRows(row_count); },
-      [&] { parts.rows.InsertLine(1, 1); });
+      state, {PassOver(session)},
+      [&] {
+        if (session.Table1.Rows() == row_count) return;
+        session.Table1.RemoveRows(1, 1);
+        session.StringTable.RemoveRows(1, 1);
+      },
+      [&] { parts.rows.InsertLine(1, 1); }, [&] { return session.Table1.Rows() == row_count + 1; });
 }
 BENCHMARK(BM_InsertLine)->Apply(OverTableSizes);
 
 void BM_Assemble(benchmark::State& state) {
   Parts parts(RowsOf(state));
   parts.addresses.Assign_Address(true);
-  Run(state, {PassOver(parts.session)}, Nothing, [&] { parts.assembler.Assemble(); });
+  Run(
+      state, {PassOver(parts.session)}, Nothing, [&] { parts.assembler.Assemble(); },
+      [&] { return parts.session.HexList.Count() > RowsOf(state) / kRowsPerGroup / 2; });
 }
 BENCHMARK(BM_Assemble)->Apply(OverTableSizes);
 
@@ -100,7 +115,8 @@ void BM_EnterInstruction(benchmark::State& state) {
         panel.Click(known);
         session.LabelCombo.Pick(session.LabelCombo.Count() - 1);
         panel.Click(accept);
-      });
+      },
+      [&] { return session.OperandOf(row) == session.LabelCombo.text(); });
 }
 BENCHMARK(BM_EnterInstruction)->Apply(OverTableSizes);
 

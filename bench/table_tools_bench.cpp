@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "panel_fixture.h"
+#include "platform/number_text.h"
 
 namespace quilla::bench {
 namespace {
@@ -67,7 +68,8 @@ void BM_SaveFile(benchmark::State& state) {
         std::filesystem::remove(plain_path);
         panel.AssignAddresses();
       },
-      [&] { session.menu.SaveFile.Click(); });
+      [&] { session.menu.SaveFile.Click(); },
+      [&] { return session.TipsLabel.caption() == "File Saved."; });
 }
 BENCHMARK(BM_SaveFile)->Apply(OverTableSizes);
 
@@ -85,19 +87,22 @@ void BM_OpenFile(benchmark::State& state) {
         panel.AssignAddresses();
         panel.outside().file_dialogs.Queue(path);
       },
-      [&] { session.menu.OpenFile.Click(); });
+      [&] { session.menu.OpenFile.Click(); },
+      [&] { return session.Table1.Rows() == RowsOf(state); });
 }
 BENCHMARK(BM_OpenFile)->Apply(OverTableSizes);
 
 /// The first row of the group in the middle of the table.
 int MiddleOf(const benchmark::State& state) { return RowsOf(state) / 2; }
 
+int PasteRow(const benchmark::State& state) { return MiddleOf(state) + kFreeRows[0]; }
+
 /// Copies a tenth of the table to the clipboard, and moves the cursor to the middle.
 void CopyTenth(PanelFixture& panel, const benchmark::State& state) {
   Session& session = panel.session();
   panel.SelectRows(1, RowsOf(state) / 10);
   panel.Click(session.menu.CopyEdit);
-  panel.ClickCell(session.Table1, MiddleOf(state), kMnemonicColumn);
+  panel.ClickCell(session.Table1, PasteRow(state), kMnemonicColumn);
 }
 
 /// Deletes the rows that have been pasted into the middle of the table.
@@ -105,9 +110,13 @@ void DeletePasted(PanelFixture& panel, const benchmark::State& state) {
   Session& session = panel.session();
   const int pasted = session.Table1.Rows() - RowsOf(state);
   if (pasted == 0) return;
-  panel.SelectRows(MiddleOf(state), MiddleOf(state) + pasted - 1);
+  panel.SelectRows(PasteRow(state), PasteRow(state) + pasted - 1);
   panel.Click(session.menu.DeleteEdit);
-  panel.ClickCell(session.Table1, MiddleOf(state), kMnemonicColumn);
+  panel.ClickCell(session.Table1, PasteRow(state), kMnemonicColumn);
+}
+
+bool IsPasted(PanelFixture& panel, const benchmark::State& state) {
+  return panel.session().Table1.Rows() == RowsOf(state) + RowsOf(state) / 10;
 }
 
 void BM_Paste(benchmark::State& state) {
@@ -115,7 +124,7 @@ void BM_Paste(benchmark::State& state) {
   CopyTenth(panel, state);
   Run(
       state, {PassOver(panel.session())}, [&] { DeletePasted(panel, state); },
-      [&] { panel.Click(panel.session().menu.PasteEdit); });
+      [&] { panel.Click(panel.session().menu.PasteEdit); }, [&] { return IsPasted(panel, state); });
 }
 BENCHMARK(BM_Paste)->Apply(OverTableSizes);
 
@@ -135,7 +144,8 @@ void BM_PasteRenaming(benchmark::State& state) {
           session.LabelEqtList.Set(i, kUnknownAddress);
         }
       },
-      [&] { panel.Click(session.menu.PasteEdit); });
+      [&] { panel.Click(session.menu.PasteEdit); },
+      [&] { return IsPasted(panel, state) && session.LabelCombo.Find("a1") >= 0; });
 }
 BENCHMARK(BM_PasteRenaming)->Apply(OverTableSizes);
 
@@ -150,7 +160,8 @@ void BM_FindLabel(benchmark::State& state) {
         panel.Click(session.menu.FindLabel);
         session.FindCombo.Pick(session.FindCombo.Count() - 1);
         panel.Click(find);
-      });
+      },
+      [&] { return session.TipsLabel.caption() == "Completed searching for label."; });
 }
 BENCHMARK(BM_FindLabel)->Apply(OverTableSizes);
 
@@ -173,7 +184,8 @@ void BM_ReplaceLabel(benchmark::State& state) {
         panel.Click(known);
         session.ReplaceCombo.Pick(label ^= 1);
       },
-      [&] { panel.Click(replace); });
+      [&] { panel.Click(replace); },
+      [&] { return session.OperandOf(kJumpRow) == session.LabelCombo[label]; });
 }
 BENCHMARK(BM_ReplaceLabel)->Apply(OverTableSizes);
 
@@ -184,19 +196,22 @@ void BM_PlaceLabel(benchmark::State& state) {
   auto& known = Find<Option>(panel.form(), "ExistingPlaceOption");
   auto& place = Find(panel.form(), "PlaceAcceptButton");
   auto& done = Find(panel.form(), "PlaceDoneButton");
-  std::size_t spot = 1;
+  std::size_t free_row = 0;
   Run(
       state, {PassOver(session)},
       [&] {
         panel.Click(done);
         panel.Click(session.menu.PlaceLabelTool);
-        panel.ClickCell(session.Table1, MiddleOf(state) + kEmptyRows[spot], kLabelColumn);
-        spot = 3 - spot;
+        panel.ClickCell(session.Table1, MiddleOf(state) + kFreeRows[free_row ^= 1], kLabelColumn);
         panel.Click(known);
         session.PlaceCombo.Pick(session.PlaceCombo.Count() / 2);
         panel.outside().boxes.Queue(BoxAnswer::kYes);
       },
-      [&] { panel.Click(place); });
+      [&] { panel.Click(place); },
+      [&] {
+        const int row = MiddleOf(state) + kFreeRows[free_row];
+        return !session.Table1.TextMatrix(row, kLabelColumn).empty();
+      });
 }
 BENCHMARK(BM_PlaceLabel)->Apply(OverTableSizes);
 
@@ -218,7 +233,8 @@ void BM_ChangeEquivalent(benchmark::State& state) {
     return true;
   };
   Run(
-      state, {PassOver(session)}, [] {}, [&] { panel.Click(session.menu.EqtOption); });
+      state, {PassOver(session)}, [] {}, [&] { panel.Click(session.menu.EqtOption); },
+      [&] { return session.LabelEqtList.Find(AddressText(digit)) >= 0; });
 }
 BENCHMARK(BM_ChangeEquivalent)->Apply(OverTableSizes);
 

@@ -102,8 +102,7 @@ void ReplaceLabelTool::ReplaceAcceptButton_Click() {
   } else {
     ReplaceByNew(ReplaceText_.text());
   }
-  strings_.UpdateLabels();
-  states_.ControlTransfer(PanelState::kReplaceLabel);
+  states_.ControlTransfer(PanelState::kReplaceLabel);  // opens afresh, with the lists up to date
   session_.FileChanged = true;
 }
 

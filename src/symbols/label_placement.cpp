@@ -88,7 +88,7 @@ void LabelPlacement::PlaceAcceptButton_Click() {
     }
   }
   session_.Table1.PaintBack(row, kLabelColumn, kNormalColor);
-  states_.ControlTransfer(PanelState::kPlaceLabel);
+  states_.ControlTransfer(PanelState::kPlaceLabel);  // opens afresh, with the lists up to date
   session_.FileChanged = true;
 }
 
@@ -116,7 +116,6 @@ void LabelPlacement::PlaceNewLabel(int row) {
                      .used = kNoFlag,
                      .line = std::to_string(row),
                      .equivalent = kUnknownAddress});
-  strings_.UpdateLabels();
 }
 
 void LabelPlacement::PlaceKnownLabel(int row) {
@@ -126,7 +125,6 @@ void LabelPlacement::PlaceKnownLabel(int row) {
   session_.Table1.SetTextMatrix(row, kLabelColumn, name);
   session_.LabelLineList.Set(label, std::to_string(row));
   session_.LabelPlacedList.Set(label, kYesFlag);
-  strings_.UpdateLabels();
 }
 
 bool LabelPlacement::MayMoveLabel(int label, int row) {

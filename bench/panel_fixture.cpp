@@ -6,9 +6,9 @@
 #include <limits>
 #include <string>
 
-#include "entry/default_comment.h"
 #include "isa/instruction_set.h"
 #include "platform/number_text.h"
+#include "program/default_comment.h"
 #include "program/opcode_cell.h"
 #include "program/rows.h"
 

@@ -10,27 +10,15 @@
 
 #include "panel_fixture.h"
 #include "platform/number_text.h"
+#include "scenario.h"
 
 namespace quilla::bench {
 namespace {
 
 int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(0)); }
 
-/// A folder of its own for the files of one benchmark; it goes with them.
-class TemporaryFolder {
- public:
-  TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "quilla_bench") {
-    std::filesystem::create_directories(path_);
-  }
-  ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  std::string File(const char* name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
-};
+constexpr const char* kProject = "program.baf";
+constexpr const char* kPlainFile = "plain";
 
 /// Reads a file as plainly as a stream reads lines; `take` is given each of them.
 template <typename Take>
@@ -52,20 +40,18 @@ void SaveUnder(Session& session, const std::string& path) {
 
 // Both files are new ones each time: what it costs to empty an old one is the file system's affair.
 void BM_SaveFile(benchmark::State& state) {
-  const TemporaryFolder folder;
+  const robot::ScratchFolder folder("");
   PanelFixture panel(RowsOf(state));
   Session& session = panel.session();
-  const std::string path = folder.File("program.baf");
-  const std::string plain_path = folder.File("plain.baf");
-  SaveUnder(session, path);
+  SaveUnder(session, kProject);
   std::vector<std::string> lines;
-  ReadLines(path, [&](const std::string& line) { lines.push_back(line + '\n'); });
-  const Measure plain{"x_fstream", [&] { WriteLines(plain_path, lines); }, kMostTransfers};
+  ReadLines(kProject, [&](const std::string& line) { lines.push_back(line + '\n'); });
+  const Measure plain{"x_fstream", [&] { WriteLines(kPlainFile, lines); }, kMostTransfers};
   Run(
       state, {PassOver(session), plain},
       [&] {
-        std::filesystem::remove(path);
-        std::filesystem::remove(plain_path);
+        std::filesystem::remove(kProject);
+        std::filesystem::remove(kPlainFile);
         panel.AssignAddresses();
       },
       [&] { session.menu.SaveFile.Click(); },
@@ -74,21 +60,20 @@ void BM_SaveFile(benchmark::State& state) {
 BENCHMARK(BM_SaveFile)->Apply(OverTableSizes);
 
 void BM_OpenFile(benchmark::State& state) {
-  const TemporaryFolder folder;
+  const robot::ScratchFolder folder("");
   PanelFixture panel(RowsOf(state));
   Session& session = panel.session();
-  const std::string path = folder.File("program.baf");
-  SaveUnder(session, path);
+  SaveUnder(session, kProject);
   const auto take = [](const std::string& line) { benchmark::DoNotOptimize(line.data()); };
-  const Measure plain{"x_fstream", [&] { ReadLines(path, take); }, kMostTransfers};
+  const Measure plain{"x_fstream", [&] { ReadLines(kProject, take); }, kMostTransfers};
   Run(
       state, {PassOver(session), plain},
       [&] {
         panel.AssignAddresses();
-        panel.outside().file_dialogs.Queue(path);
+        panel.outside().file_dialogs.Queue(kProject);
       },
       [&] { session.menu.OpenFile.Click(); },
-      [&] { return session.Table1.Rows() == RowsOf(state); });
+      [&] { return session.TipsLabel.caption() == "File Opened."; });
 }
 BENCHMARK(BM_OpenFile)->Apply(OverTableSizes);
 

@@ -1,5 +1,5 @@
 // Every scenario of tests/scenarios/, played on the models.
-#include "robot/scenario.h"
+#include "scenario.h"
 
 #include <gtest/gtest.h>
 

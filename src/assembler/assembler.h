@@ -3,10 +3,10 @@
 #ifndef QUILLA_ASSEMBLER_ASSEMBLER_H_
 #define QUILLA_ASSEMBLER_ASSEMBLER_H_
 
-#include "entry/state_machine.h"
 #include "platform/dialogs.h"
 #include "platform/grid.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "symbols/address_assignment.h"
 #include "symbols/string_lists.h"
 

@@ -4,9 +4,9 @@
 
 #include <cstddef>
 
-#include "entry/state_machine.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "symbols/string_lists.h"
 
 namespace quilla {

@@ -1,6 +1,6 @@
 #include "entry/comment_tool.h"
 
-#include "entry/default_comment.h"
+#include "program/default_comment.h"
 
 namespace quilla {
 namespace {

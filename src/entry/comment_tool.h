@@ -2,9 +2,9 @@
 #ifndef QUILLA_ENTRY_COMMENT_TOOL_H_
 #define QUILLA_ENTRY_COMMENT_TOOL_H_
 
-#include "entry/state_machine.h"
 #include "platform/text_box.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

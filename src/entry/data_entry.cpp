@@ -1,6 +1,6 @@
 #include "entry/data_entry.h"
 
-#include "entry/default_comment.h"
+#include "program/default_comment.h"
 
 namespace quilla {
 namespace {

@@ -2,10 +2,10 @@
 #ifndef QUILLA_ENTRY_DATA_ENTRY_H_
 #define QUILLA_ENTRY_DATA_ENTRY_H_
 
-#include "entry/entry_line.h"
-#include "entry/state_machine.h"
 #include "program/digit_keys.h"
+#include "program/entry_line.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "entry/entry_line.h"
 #include "entry/register_entry.h"
-#include "entry/state_machine.h"
+#include "program/entry_line.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

@@ -3,9 +3,9 @@
 #define QUILLA_ENTRY_NEW_FILE_H_
 
 #include "entry/number_entry.h"
-#include "entry/state_machine.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

@@ -3,11 +3,11 @@
 #define QUILLA_ENTRY_NUMBER_ENTRY_H_
 
 #include "entry/data_entry.h"
-#include "entry/entry_line.h"
-#include "entry/state_machine.h"
 #include "platform/timer.h"
 #include "program/digit_keys.h"
+#include "program/entry_line.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "symbols/origins.h"
 
 namespace quilla {

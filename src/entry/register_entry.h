@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
-#include "entry/entry_line.h"
-#include "entry/state_machine.h"
+#include "program/entry_line.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

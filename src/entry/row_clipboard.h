@@ -6,9 +6,9 @@
 #include <string>
 #include <unordered_map>
 
-#include "entry/state_machine.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "symbols/string_lists.h"
 
 namespace quilla {

@@ -5,9 +5,9 @@
 #include "entry/comment_tool.h"
 #include "entry/data_entry.h"
 #include "entry/instruction_entry.h"
-#include "entry/state_machine.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

@@ -4,10 +4,10 @@
 #define QUILLA_FORMATS_PROJECT_FILE_H_
 
 #include "entry/new_file.h"
-#include "entry/state_machine.h"
 #include "platform/dialogs.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "symbols/origins.h"
 
 namespace quilla {

@@ -90,7 +90,8 @@ template <typename Find>
 std::string FileChannels::File::TakeUntil(const Find& find) {
   std::string text;
   while (!AtEnd()) {
-    const std::string_view ahead = std::string_view(read_).substr(taken_);
+    std::string_view ahead = read_;
+    ahead.remove_prefix(taken_);
     const std::size_t end = find(ahead);
     text += ahead.substr(0, end);
     if (end != std::string_view::npos) {

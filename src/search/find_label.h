@@ -2,8 +2,8 @@
 #ifndef QUILLA_SEARCH_FIND_LABEL_H_
 #define QUILLA_SEARCH_FIND_LABEL_H_
 
-#include "entry/state_machine.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "search/string_painter.h"
 #include "symbols/string_lists.h"
 

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "entry/state_machine.h"
 #include "platform/text_box.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "search/string_painter.h"
 #include "symbols/label_placement.h"
 #include "symbols/string_lists.h"

@@ -1,6 +1,6 @@
 #include "search/string_painter.h"
 
-#include "entry/default_comment.h"
+#include "program/default_comment.h"
 #include "program/mnemonic.h"
 
 namespace quilla {

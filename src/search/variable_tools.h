@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "entry/state_machine.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "search/string_painter.h"
 #include "symbols/variable_entry.h"
 

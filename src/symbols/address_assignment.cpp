@@ -59,6 +59,7 @@ bool AddressAssignment::CheckStrings() {
     return false;
   }
   std::unordered_map<std::string_view, int> rows_with;
+  rows_with.reserve(session_.LabelCombo.items().size());
   for (int row = 0; row < session_.Table1.Rows(); ++row) {
     ++rows_with[session_.Table1.TextMatrix(row, kLabelColumn)];
   }
@@ -102,6 +103,7 @@ int AddressAssignment::AssignBlock(int row, const LabelIndex& labels, std::int64
 
 void AddressAssignment::PatchLabelOperands() {
   LabelIndex labels;
+  labels.reserve(session_.LabelCombo.items().size());
   for (int i = 0; i < session_.LabelCombo.Count(); ++i) labels[session_.LabelCombo[i]] = i;
   for (int row = 1; row < session_.Table1.Rows(); ++row) {
     const std::string& operand = session_.OperandOf(row);

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "entry/state_machine.h"
 #include "platform/timer.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

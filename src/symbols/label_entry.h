@@ -4,10 +4,10 @@
 
 #include <string>
 
-#include "entry/entry_line.h"
-#include "entry/state_machine.h"
 #include "platform/text_box.h"
+#include "program/entry_line.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "symbols/string_lists.h"
 
 namespace quilla {

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "entry/state_machine.h"
 #include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

@@ -14,6 +14,7 @@ bool IsNameCharacter(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <
 /// The operand strings of all rows but the first whose Opcode cell has `length` characters.
 std::unordered_set<std::string_view> OperandsOfLength(const Session& session, std::size_t length) {
   std::unordered_set<std::string_view> operands;
+  operands.reserve(session.LabelCombo.items().size());
   for (int row = 1; row < session.Table1.Rows(); ++row) {
     const std::string& operand = session.OperandOf(row);
     if (session.Table1.TextMatrix(row, kOpcodeColumn).size() == length) {
@@ -26,6 +27,7 @@ std::unordered_set<std::string_view> OperandsOfLength(const Session& session, st
 /// The first row, row 0 aside, that each text of the Label column stands in.
 std::unordered_map<std::string_view, int> PlacesOfLabels(const Session& session) {
   std::unordered_map<std::string_view, int> places;
+  places.reserve(session.LabelCombo.items().size());
   for (int row = 1; row < session.Table1.Rows(); ++row) {
     const std::string& label = session.Table1.TextMatrix(row, kLabelColumn);
     places.try_emplace(label, row);

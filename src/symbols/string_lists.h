@@ -6,8 +6,8 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "entry/state_machine.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 
 namespace quilla {
 

@@ -12,8 +12,8 @@
 
 #include "panel/programming_panel.h"
 #include "platform/failure.h"
-#include "robot/scenario.h"
 #include "robot/scripted_outside.h"
+#include "scenario.h"
 
 namespace quilla {
 namespace {

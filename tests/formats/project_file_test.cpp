@@ -14,8 +14,8 @@
 
 #include "panel/quilla.h"
 #include "platform/failure.h"
-#include "robot/scenario.h"
 #include "robot/scripted_outside.h"
+#include "scenario.h"
 
 namespace quilla {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/failure_of.h"
-#include "robot/scenario.h"
+#include "scenario.h"
 
 namespace quilla {
 namespace {

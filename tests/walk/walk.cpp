@@ -9,7 +9,7 @@
 #include <streambuf>
 
 #include "robot/robot.h"
-#include "robot/scenario.h"
+#include "scenario.h"
 #include "walk/files.h"
 #include "walk/rules.h"
 #include "walk/script_maker.h"

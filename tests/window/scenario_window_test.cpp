@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "robot/robot.h"
-#include "robot/scenario.h"
+#include "scenario.h"
 #include "window/widget_check.h"
 #include "window/widget_hands.h"
 

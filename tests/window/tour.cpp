@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "robot/robot.h"
-#include "robot/scenario.h"
+#include "scenario.h"
 #include "window/widget_hands.h"
 
 namespace quilla::robot {

@@ -1,6 +1,6 @@
 // The end of an entered line, common to all entry tools: opcode, default comment, next line.
-#ifndef QUILLA_ENTRY_ENTRY_LINE_H_
-#define QUILLA_ENTRY_ENTRY_LINE_H_
+#ifndef QUILLA_PROGRAM_ENTRY_LINE_H_
+#define QUILLA_PROGRAM_ENTRY_LINE_H_
 
 #include "program/rows.h"
 #include "program/session.h"
@@ -28,4 +28,4 @@ class EntryLine {
 
 }  // namespace quilla
 
-#endif  // QUILLA_ENTRY_ENTRY_LINE_H_
+#endif  // QUILLA_PROGRAM_ENTRY_LINE_H_

@@ -1,4 +1,4 @@
-#include "robot/scenario.h"
+#include "scenario.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,6 +1,6 @@
-#include "entry/entry_line.h"
+#include "program/entry_line.h"
 
-#include "entry/default_comment.h"
+#include "program/default_comment.h"
 #include "program/opcode_cell.h"
 
 namespace quilla {

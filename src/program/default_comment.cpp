@@ -1,4 +1,4 @@
-#include "entry/default_comment.h"
+#include "program/default_comment.h"
 
 #include <string>
 

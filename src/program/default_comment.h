@@ -1,6 +1,6 @@
 // The default comment of a row, built from what stands in it.
-#ifndef QUILLA_ENTRY_DEFAULT_COMMENT_H_
-#define QUILLA_ENTRY_DEFAULT_COMMENT_H_
+#ifndef QUILLA_PROGRAM_DEFAULT_COMMENT_H_
+#define QUILLA_PROGRAM_DEFAULT_COMMENT_H_
 
 #include "program/session.h"
 
@@ -13,4 +13,4 @@ void ApplyDefaultComment(Session& session, int row);
 
 }  // namespace quilla
 
-#endif  // QUILLA_ENTRY_DEFAULT_COMMENT_H_
+#endif  // QUILLA_PROGRAM_DEFAULT_COMMENT_H_

@@ -1,7 +1,7 @@
 // The panel's state machine: a table of states with their tips and boxes. `ControlTransfer` is
 // the one way to change the task; tools hand in the procedures that show and hide their boxes.
-#ifndef QUILLA_ENTRY_STATE_MACHINE_H_
-#define QUILLA_ENTRY_STATE_MACHINE_H_
+#ifndef QUILLA_PROGRAM_STATE_MACHINE_H_
+#define QUILLA_PROGRAM_STATE_MACHINE_H_
 
 #include <functional>
 #include <map>
@@ -65,4 +65,4 @@ class StateMachine {
 
 }  // namespace quilla
 
-#endif  // QUILLA_ENTRY_STATE_MACHINE_H_
+#endif  // QUILLA_PROGRAM_STATE_MACHINE_H_

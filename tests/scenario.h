@@ -1,7 +1,7 @@
 // Scenario files: a script and its transcript in one, so that all lines together are what must
 // come out.
-#ifndef QUILLA_ROBOT_SCENARIO_H_
-#define QUILLA_ROBOT_SCENARIO_H_
+#ifndef QUILLA_TESTS_SCENARIO_H_
+#define QUILLA_TESTS_SCENARIO_H_
 
 #include <filesystem>
 #include <string>
@@ -45,4 +45,4 @@ class ScratchFolder {
 
 }  // namespace quilla::robot
 
-#endif  // QUILLA_ROBOT_SCENARIO_H_
+#endif  // QUILLA_TESTS_SCENARIO_H_

@@ -1,9 +1,9 @@
-#include "entry/entry_line.h"
+#include "program/entry_line.h"
 
 #include <gtest/gtest.h>
 
-#include "entry/default_comment.h"
 #include "platform/failure_of.h"
+#include "program/default_comment.h"
 #include "program/desk.h"
 
 namespace quilla {

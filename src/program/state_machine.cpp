@@ -1,4 +1,4 @@
-#include "entry/state_machine.h"
+#include "program/state_machine.h"
 
 #include <cstddef>
 #include <iterator>

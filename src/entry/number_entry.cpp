@@ -62,7 +62,6 @@ void NumberEntry::NumberStatus(bool status) {
 }
 
 void NumberEntry::StartupTimer_Timer() {
-  StartupTimer_.Disable();
   if (session_.CurrentPanelState == PanelState::kDataReady) {
     data_.AcceptButton().SetFocus();
   } else {

@@ -21,7 +21,6 @@ void Quilla::Start() {
 }
 
 void Quilla::OpenTimer_Timer() {
-  OpenTimer_.Disable();
   panel_ = std::make_unique<ProgrammingPanel>(outside_);
   outside_.event_loop.Show(panel_->form());
   outside_.event_loop.Unload(OpenForm_);

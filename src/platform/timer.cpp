@@ -22,6 +22,9 @@ void Timer::Disable() {
   clock_.Stop(*this);
 }
 
-void Timer::Expire() { Dispatch(Fire); }
+void Timer::Expire() {
+  Disable();
+  Dispatch(Fire);
+}
 
 }  // namespace quilla

@@ -1,5 +1,4 @@
-// A timer that fires after its interval, again and again until its handler disables it, and the
-// clock behind all timers.
+// A timer that fires once, an interval after it was enabled, and the clock behind all timers.
 #ifndef QUILLA_PLATFORM_TIMER_H_
 #define QUILLA_PLATFORM_TIMER_H_
 
@@ -32,9 +31,11 @@ class Timer {
   /// Enabling a timer that is enabled starts its interval anew.
   void Enable();
   void Disable();
-  /// The interval is over; called by the clock.
+  /// The interval is over; called by the clock. The timer is off when its handler runs, which may
+  /// enable it again.
   void Expire();
 
+  /// Runs once for each interval that comes to its end.
   std::function<void()> Fire;
 
  private:

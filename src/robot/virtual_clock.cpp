@@ -5,15 +5,10 @@
 #include <tuple>
 
 namespace quilla::robot {
-namespace {
-
-std::int64_t Interval(const Timer& timer) { return std::max(1, timer.interval_ms()); }
-
-}  // namespace
 
 void VirtualClock::Start(Timer& timer) {
   Stop(timer);
-  alarms_.push_back({&timer, now_ + Interval(timer), ++starts_});
+  alarms_.push_back({&timer, now_ + std::max(1, timer.interval_ms()), ++starts_});
 }
 
 void VirtualClock::Stop(Timer& timer) {
@@ -40,10 +35,7 @@ bool VirtualClock::FireNext(std::int64_t limit) {
       });
   if (next == alarms_.end() || next->due > limit) return false;
   now_ = std::max(now_, next->due);
-  // The handler may stop or start any timer, so the alarm is set again before it runs.
-  Timer& timer = *next->timer;
-  next->due += Interval(timer);
-  timer.Expire();
+  next->timer->Expire();
   return true;
 }
 

@@ -14,8 +14,7 @@ class VirtualClock : public Clock {
   void Start(Timer& timer) override;
   void Stop(Timer& timer) override;
 
-  /// Lets time pass: timers fire when they are due, in order of time, then of enabling. A timer
-  /// that its handler leaves enabled is due again after its interval.
+  /// Lets time pass: timers fire when they are due, in order of time, then of enabling.
   void Pass(int milliseconds);
   /// Lets time pass until no timer is enabled.
   void PassAll();

@@ -38,7 +38,6 @@ void SimulationStart::SimulationView_Click() {
 }
 
 void SimulationStart::SimulationTimer_Timer() {
-  SimulationTimer.Disable();
   session_.SetTip("Preparing for simulation...");
   dialog_.Load();
   WriteProgram(session_.Table1, dialog_.tables());

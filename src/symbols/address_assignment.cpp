@@ -33,7 +33,7 @@ void AddressAssignment::AssignAddress_Click() {
 }
 
 void AddressAssignment::Assign_Address(bool AddressMessageEnable) {
-  AddressTimer_.Disable();
+  AddressTimer_.Disable();  // by whatever way it came, the work is done now
   session_.AddressError = false;
   session_.OriginList.Clear();
   session_.LastAddressList.Clear();

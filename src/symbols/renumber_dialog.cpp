@@ -55,10 +55,7 @@ EquivalentsPage::EquivalentsPage(Session& session, Form& form, const Names& name
   Table.Click = [this] { Table_Click(); };
   AcceptButton.Click = [this] { AcceptButton_Click(); };
   AcceptButton.KeyPress = DigitKeyPress(std::move(digit));
-  DelayTimer.Fire = [this] {
-    DelayTimer.Disable();
-    AcceptButton.SetFocus();
-  };
+  DelayTimer.Fire = [this] { AcceptButton.SetFocus(); };
 }
 
 void EquivalentsPage::Load(const TextList& names, const TextList& equivalents) {

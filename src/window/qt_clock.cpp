@@ -6,6 +6,7 @@ void QtClock::Start(Timer& timer) {
   std::unique_ptr<QTimer>& qt_timer = timers_[&timer];
   if (qt_timer == nullptr) {
     qt_timer = std::make_unique<QTimer>();
+    qt_timer->setSingleShot(true);
     qt_timer->setTimerType(Qt::PreciseTimer);
     QObject::connect(qt_timer.get(), &QTimer::timeout,
                      [this, &timer] { gate_.Enter([&timer] { timer.Expire(); }); });

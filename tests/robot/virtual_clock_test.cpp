@@ -12,14 +12,9 @@ namespace {
 class VirtualClockTest : public testing::Test {
  protected:
   VirtualClockTest() {
-    slow_.Fire = [this] { FireOnce(slow_); };
-    quick_.Fire = [this] { FireOnce(quick_); };
-    other_.Fire = [this] { FireOnce(other_); };
-  }
-
-  void FireOnce(Timer& timer) {
-    timer.Disable();
-    fired_ += timer.name();
+    for (Timer* timer : {&slow_, &quick_, &other_}) {
+      timer->Fire = [this, timer] { fired_ += timer->name(); };
+    }
   }
 
   VirtualClock clock_;
@@ -52,22 +47,24 @@ TEST_F(VirtualClockTest, EnablingAgainStartsTheIntervalAnew) {
   EXPECT_EQ(fired_, "Q");
 }
 
-TEST_F(VirtualClockTest, TimerThatStaysEnabledIsDueAgain) {
+TEST_F(VirtualClockTest, TimerFiresOnceUnlessItsHandlerEnablesItAgain) {
   quick_.Fire = [this] {
+    EXPECT_FALSE(quick_.enabled());
     fired_ += "Q";
-    if (fired_.size() == 5) quick_.Disable();
+    if (fired_.size() < 4) quick_.Enable();
   };
-  quick_.Enable();
+  other_.Enable();
   slow_.Enable();
+  quick_.Enable();
   clock_.Pass(25);
-  EXPECT_EQ(fired_, "QQ");
+  EXPECT_EQ(fired_, "OQQ");
   clock_.PassAll();
-  EXPECT_EQ(fired_, "QQQSQ") << "at one time, the timer enabled first";
+  EXPECT_EQ(fired_, "OQQSQ") << "at one time, the timer enabled first";
 }
 
 TEST_F(VirtualClockTest, SettlingPlaysAChainToItsEnd) {
   quick_.Fire = [this] {
-    FireOnce(quick_);
+    fired_ += "Q";
     slow_.Enable();
     other_.Enable();
   };
@@ -78,7 +75,7 @@ TEST_F(VirtualClockTest, SettlingPlaysAChainToItsEnd) {
 
 TEST_F(VirtualClockTest, HandlerMayLetTimePassItself) {
   quick_.Fire = [this] {
-    FireOnce(quick_);
+    fired_ += "Q";
     clock_.Pass(100);
     other_.Enable();
   };

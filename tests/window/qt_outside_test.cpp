@@ -128,22 +128,20 @@ TEST(QtFileDialogsTest, GiveThePathAsTypedOrNothing) {
   EXPECT_EQ(dialogs.Choose(request), std::nullopt);
 }
 
-TEST(QtClockTest, ATimerFiresUntilItsHandlerDisablesIt) {
+TEST(QtClockTest, ATimerFiresOnce) {
   Gate gate;
   QtClock clock(gate);
   Timer timer(clock, "Timer", 1);
   Timer never(clock, "Never", 1);
   int fired = 0;
-  timer.Fire = [&] {
-    if (++fired == 3) timer.Disable();
-  };
+  timer.Fire = [&] { ++fired; };
   never.Fire = [] { ADD_FAILURE() << "disabled before it was due"; };
   never.Enable();
   never.Disable();
   timer.Enable();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return fired == 3; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return fired == 1; }));
   QTest::qWait(5);
-  EXPECT_EQ(fired, 3);
+  EXPECT_EQ(fired, 1);
 }
 
 class QtEventLoopTest : public testing::Test {

@@ -1,7 +1,7 @@
 #include "assembler/assembler.h"
 
-#include "assembler/hex_records.h"
 #include "formats/hex_file.h"
+#include "formats/hex_records.h"
 #include "platform/failure.h"
 #include "platform/number_text.h"
 #include "program/opcode_cell.h"
@@ -21,8 +21,7 @@ Assembler::Assembler(Session& session, StateMachine& states, AddressAssignment& 
       states_(states),
       addresses_(addresses),
       strings_(strings),
-      TempTable_(&session.ProgrammingPanel, "TempTable", kMostBytes + 1),
-      AssembleDialog_(session.outside.file_dialogs) {
+      TempTable_(&session.ProgrammingPanel, "TempTable", kMostBytes + 1) {
   TempTable_.Hide();
   session_.menu.AssembleFile.Click = [this] { AssembleFile_Click(); };
 }
@@ -47,7 +46,9 @@ void Assembler::AssembleFile_Click() {
   }
   Assemble();
   session_.SetTip("Data assembled successfully.");
-  Save();
+  SaveHexRecords(session_, kSaveChannel, FailedWrite::kClosesChannel,
+                 [this] { session_.SetTip("Saving to file . . ."); });
+  states_.ReturnToReady();
 }
 
 bool Assembler::HasData() const {
@@ -116,26 +117,6 @@ void Assembler::CutRecords() {
 void Assembler::AddChecksums() {
   TextList& records = session_.HexList;
   for (int i = 0; i < records.Count(); ++i) records.Set(i, records[i] + Checksum(records[i]));
-}
-
-void Assembler::Save() {
-  try {
-    AssembleDialog_.Flags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
-    AssembleDialog_.Filter = kHexFilter;
-    AssembleDialog_.DialogTitle = kSaveHexTitle;
-    AssembleDialog_.ShowSave();
-    session_.HexPath = AssembleDialog_.FileName;
-    session_.SetTip("Saving to file . . .");
-    session_.channels.OpenOutput(kSaveChannel, session_.HexPath);
-    WriteHexRecords(session_.channels, kSaveChannel, session_.HexList);
-    session_.channels.Close(kSaveChannel);
-  } catch (const Failure& failure) {
-    session_.channels.Abandon(kSaveChannel);
-    if (failure.number() != ErrorNumber::kDialogCancelled) {
-      session_.ShowCritical("Unable to save file.");
-    }
-  }
-  states_.ReturnToReady();
 }
 
 }  // namespace quilla

@@ -3,7 +3,6 @@
 #ifndef QUILLA_ASSEMBLER_ASSEMBLER_H_
 #define QUILLA_ASSEMBLER_ASSEMBLER_H_
 
-#include "platform/dialogs.h"
 #include "platform/grid.h"
 #include "program/session.h"
 #include "program/state_machine.h"
@@ -29,7 +28,6 @@ class Assembler {
   void SplitOpcodes();
   void CutRecords();
   void AddChecksums();
-  void Save();
 
   Session& session_;
   StateMachine& states_;
@@ -38,7 +36,6 @@ class Assembler {
   /// The byte texts of each row in columns 0 to 2; of an origin row its address in column 0 and
   /// "Origin" in column 3.
   Grid TempTable_;
-  CommonDialog AssembleDialog_;
 };
 
 }  // namespace quilla

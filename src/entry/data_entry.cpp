@@ -1,6 +1,7 @@
 #include "entry/data_entry.h"
 
 #include "program/default_comment.h"
+#include "symbols/address_assignment.h"
 
 namespace quilla {
 namespace {
@@ -45,6 +46,7 @@ void DataEntry::DataNum_Click(int index) {
 }
 
 void DataEntry::DataAcceptButton_Click() {
+  ClearAddress();
   const int row = session_.CurrentRow;
   session_.Table1.SetTextMatrix(row, kMnemonicColumn, kDataMnemonic);
   session_.Table1.SetTextMatrix(row, kOpcodeColumn, DataLabel_.caption());

@@ -1,14 +1,8 @@
 #include "entry/new_file.h"
 
-#include <string>
+#include "program/offer_to_save.h"
 
 namespace quilla {
-namespace {
-
-/// The code of an answer as `MessageResult` holds it.
-std::string CodeOf(BoxAnswer answer) { return std::to_string(static_cast<int>(answer)); }
-
-}  // namespace
 
 NewFileCommand::NewFileCommand(Session& session, StateMachine& states, Rows& rows,
                                NumberEntry& numbers)
@@ -46,12 +40,8 @@ void NewFileCommand::New_File() {
 }
 
 void NewFileCommand::NewFile_Click() {
-  if (session_.FileChanged) session_.AskToSaveChanges();
-  if (session_.MessageResult == CodeOf(BoxAnswer::kCancel)) return;
-  if (session_.MessageResult == CodeOf(BoxAnswer::kYes)) {
-    session_.menu.SaveFile.Click();
-    if (session_.FileChanged) return;
-  }
+  if (session_.FileChanged) AskToSaveChanges(session_);
+  if (!SaveAsAnswered(session_)) return;
   session_.FileName = kNewFileName;
   New_File();
 }

@@ -7,6 +7,7 @@
 
 #include "platform/characters.h"
 #include "platform/failure.h"
+#include "program/offer_to_save.h"
 
 namespace quilla {
 namespace {
@@ -132,14 +133,7 @@ void ProjectFile::WriteStrings(const TextList& names, const TextList& equivalent
 }
 
 void ProjectFile::OpenFile_Click() {
-  if (session_.FileChanged) {
-    const BoxAnswer answer = session_.AskToSaveChanges();
-    if (answer == BoxAnswer::kCancel) return;
-    if (answer == BoxAnswer::kYes) {
-      SaveFile_Click();
-      if (session_.FileChanged) return;
-    }
-  }
+  if (!OfferToSave(session_)) return;
   try {
     FileDialog_.Flags = kHideReadOnly | kPathMustExist | kFileMustExist;
     FileDialog_.Filter = kFilter;

@@ -51,6 +51,8 @@ bool FileChannels::File::Close() {
   return buffer_.close() != nullptr && written;
 }
 
+bool FileChannels::File::Flush() { return WriteBlock() && buffer_.pubsync() == 0; }
+
 bool FileChannels::File::WriteLine(std::initializer_list<FileItem> items) {
   const std::size_t line_start = written_.size();
   for (const FileItem& item : items) {
@@ -152,6 +154,10 @@ FileChannels::File& FileChannels::FileOn(int channel) {
 
 void FileChannels::WriteLine(int channel, std::initializer_list<FileItem> items) {
   if (!FileOn(channel).WriteLine(items)) throw Failure(ErrorNumber::kWriteFailed);
+}
+
+void FileChannels::Flush(int channel) {
+  if (!FileOn(channel).Flush()) throw Failure(ErrorNumber::kWriteFailed);
 }
 
 std::string FileChannels::ReadText(int channel) {

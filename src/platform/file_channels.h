@@ -39,6 +39,8 @@ class FileChannels {
   void Close(int channel);
   /// Closes the channel whatever has become of the file; for clean-ups after a failure.
   void Abandon(int channel);
+  /// Brings what has been written so far to the disk. Fails as WriteLine; the channel stays open.
+  void Flush(int channel);
   bool IsOpen(int channel) const { return files_.contains(channel); }
 
   /// Writes items on one line, with commas between them and CR LF behind.
@@ -62,6 +64,8 @@ class FileChannels {
     bool Open(const std::string& path, std::ios::openmode mode);
     /// Adds a line of items. False when the disk does not take what is written.
     bool WriteLine(std::initializer_list<FileItem> items);
+    /// Writes what has been added since the last block. False as WriteLine.
+    bool Flush();
     /// Takes the next item with its quotes and its delimiter, and gives what it holds.
     std::string TakeItem();
     /// Writes what has been added since the last block, and closes. False as WriteLine.

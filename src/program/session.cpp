@@ -22,7 +22,7 @@ Session::Session(Outside& world) : outside(world), MSComm1(world.serial_port) {
 
 BoxAnswer Session::Ask(BoxIcon icon, const std::string& text, BoxButtons buttons) {
   const BoxAnswer answer = outside.boxes.Show(icon, text, buttons);
-  MessageResult = std::to_string(static_cast<int>(answer));
+  MessageResult = AnswerCode(answer);
   return answer;
 }
 

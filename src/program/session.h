@@ -53,6 +53,9 @@ inline constexpr std::size_t kSavedOperand = 5;
 /// Where the session came from.
 enum class FileOrigin : int { kNew = 1, kOpened = 2, kSaved = 3, kDisassembled = 4 };
 
+/// The code of an answer as `MessageResult` holds it.
+inline std::string AnswerCode(BoxAnswer answer) { return std::to_string(static_cast<int>(answer)); }
+
 /// What the label lists say of one label.
 struct LabelRecord {
   std::string name;
@@ -121,6 +124,7 @@ struct Session {
   bool FileChanged = false;
   std::string MessageResult;
   std::string HexPath;
+  std::string HexTitle;
   FileChannels channels;
 
   bool AddressError = false;
@@ -135,11 +139,6 @@ struct Session {
   void ShowCritical(const std::string& text) { Ask(BoxIcon::kCritical, text, BoxButtons::kOk); }
   void ShowInformation(const std::string& text) {
     Ask(BoxIcon::kInformation, text, BoxButtons::kOk);
-  }
-
-  /// The question before a command that gives up the program: Yes, No or Cancel.
-  BoxAnswer AskToSaveChanges() {
-    return Ask(BoxIcon::kQuestion, "Save changes to " + FileName + "?", BoxButtons::kYesNoCancel);
   }
 
   void SetTip(std::string tip) { TipsLabel.set_caption(std::move(tip)); }

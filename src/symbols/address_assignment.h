@@ -43,6 +43,10 @@ class AddressAssignment {
   Timer AddressTimer_;
 };
 
+/// Told where a command makes addresses stale that were assigned before. Addresses are assigned
+/// anew whenever a command needs them, so there is nothing to clear.
+inline void ClearAddress() {}
+
 }  // namespace quilla
 
 #endif  // QUILLA_SYMBOLS_ADDRESS_ASSIGNMENT_H_

@@ -1,6 +1,7 @@
-// Cutting bytes into Intel HEX records of up to sixteen bytes, and their checksums.
-#ifndef QUILLA_ASSEMBLER_HEX_RECORDS_H_
-#define QUILLA_ASSEMBLER_HEX_RECORDS_H_
+// Intel HEX records: cutting bytes into records of up to sixteen, their checksums, and the check of
+// records that were read.
+#ifndef QUILLA_FORMATS_HEX_RECORDS_H_
+#define QUILLA_FORMATS_HEX_RECORDS_H_
 
 #include <cstdint>
 #include <string>
@@ -9,6 +10,9 @@
 #include "platform/text_list.h"
 
 namespace quilla {
+
+/// The end record, the last of every image (Intel HEX, record type 01).
+inline constexpr const char* kEndRecord = ":00000001FF";
 
 /// The bytes of a full record.
 inline constexpr int kRecordBytes = 16;
@@ -22,6 +26,13 @@ std::string RecordHead(std::int64_t address);
 /// least two digits. A low byte of 0 gives the three digits "100". Fails with `kNotANumber` where
 /// the record holds anything but hexadecimal digits behind its colon.
 std::string Checksum(std::string_view record);
+
+/// Checks the records of an image, all but the last, against their byte counts and checksums. False
+/// at the first record that is too short for its count, or whose bytes sum to a low byte of two
+/// decimal digits other than 00. Fails with `kNotANumber` where that low byte has a letter among
+/// its digits, or a record holds anything but hexadecimal digits; with `kOutsideList` where the sum
+/// has one digit only.
+bool RecordsAreGood(const TextList& records);
 
 /// Collects the bytes of one block after the other and adds a record to a list whenever one is
 /// full.
@@ -44,4 +55,4 @@ class RecordWriter {
 
 }  // namespace quilla
 
-#endif  // QUILLA_ASSEMBLER_HEX_RECORDS_H_
+#endif  // QUILLA_FORMATS_HEX_RECORDS_H_

@@ -1,4 +1,4 @@
-#include "assembler/hex_records.h"
+#include "formats/hex_records.h"
 
 #include <gtest/gtest.h>
 
@@ -58,6 +58,33 @@ TEST(HexRecordsTest, ChecksumHasThreeDigitsWhereTheSumIsRound) {
   for (const auto& [record, checksum] : cases) EXPECT_EQ(Checksum(record), checksum) << record;
   EXPECT_EQ(FailureOf([] { Checksum(":018000000X"); }), ErrorNumber::kNotANumber);
   EXPECT_EQ(FailureOf([] { Checksum(":018000003E   0F"); }), ErrorNumber::kNotANumber);
+}
+
+TEST(HexRecordsTest, RecordsAreCheckedAgainstCountAndChecksum) {
+  const struct {
+    const char* record;
+    bool good;
+  } cases[] = {
+      {":018000007F00", true}, {":0000000050B0", false},   // five bytes by its count
+      {":0080000080", true},   {":0080000092", false},     // sums of 100 and 112
+      {":018000007F", false},  {":0180000000100", false},  // too short, a checksum of three digits
+      {":1", false},           {"x0080000080", true},
+  };
+  for (const auto& [record, good] : cases) {
+    TextList records(nullptr, "Records");
+    records.Assign({record, "the last is not looked at"});
+    EXPECT_EQ(RecordsAreGood(records), good) << record;
+  }
+  const auto failure_of = [](const char* record) {
+    TextList records(nullptr, "Records");
+    records.Assign({record, kEndRecord});
+    return FailureOf([&] { RecordsAreGood(records); });
+  };
+  EXPECT_EQ(failure_of(":008000009F"), ErrorNumber::kNotANumber);   // 11F: no decimal number
+  EXPECT_EQ(failure_of(":0000000001"), ErrorNumber::kOutsideList);  // 1: one digit
+  for (const char* record : {"", ":", ":0080000G80"}) {
+    EXPECT_EQ(failure_of(record), ErrorNumber::kNotANumber) << record;
+  }
 }
 
 TEST(HexRecordsTest, BlocksAreCutAfterSixteenBytes) {

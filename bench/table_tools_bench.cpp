@@ -209,7 +209,7 @@ void BM_ChangeEquivalent(benchmark::State& state) {
   auto& accept = Find(dialog, "EqtAcceptButton");
   auto& done = Find(dialog, "DoneButton");
   int digit = 0;
-  panel.outside().event_loop.play_line = [&] {
+  panel.outside().event_loop.play_command = [&] {
     digit = digit % 15 + 1;
     panel.ClickCell(table, table.Rows() / 2, 0);
     panel.Click(Find(dialog, "NUM", digit));

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "platform/characters.h"
 #include "platform/grid.h"
@@ -29,25 +30,25 @@ bool Has(const Grid& grid, Cell cell) {
 
 Commands::Command Commands::CommandNamed(std::string_view name) {
   static const std::map<std::string_view, Command> kCommands = {
-      {"click", &Commands::Click},     {"press", &Commands::Press},
-      {"release", &Commands::Release}, {"type", &Commands::Type},
-      {"clear", &Commands::Clear},     {"key", &Commands::Key},
-      {"pick", &Commands::Pick},       {"cell", &Commands::ClickCell},
-      {"drag", &Commands::Drag},       {"hover", &Commands::Hover},
-      {"enter", &Commands::Enter},     {"escape", &Commands::Escape},
-      {"close", &Commands::Close},     {"answer", &Commands::Answer},
-      {"path", &Commands::Path},       {"nopath", &Commands::NoPath},
-      {"port", &Commands::Port},       {"feed", &Commands::Feed},
-      {"tick", &Commands::Tick},       {"settle", &Commands::Settle},
-      {"state", &Commands::State},     {"show", &Commands::Show},
-      {"dump", &Commands::Dump},       {"colors", &Commands::Colors},
-      {"list", &Commands::List}};
+      {"click", &Commands::Click},         {"press", &Commands::Press},
+      {"release", &Commands::Release},     {"type", &Commands::Type},
+      {"clear", &Commands::Clear},         {"key", &Commands::Key},
+      {"pick", &Commands::Pick},           {"cell", &Commands::ClickCell},
+      {"drag", &Commands::Drag},           {"hover", &Commands::Hover},
+      {"enter", &Commands::Enter},         {"escape", &Commands::Escape},
+      {"close", &Commands::Close},         {"answer", &Commands::Answer},
+      {"path", &Commands::Path},           {"nopath", &Commands::NoPath},
+      {"port", &Commands::Port},           {"feed", &Commands::Feed},
+      {"tick", &Commands::Tick},           {"settle", &Commands::Settle},
+      {"state", &Commands::State},         {"show", &Commands::Show},
+      {"dump", &Commands::Dump},           {"colors", &Commands::Colors},
+      {"list", &Commands::List},           {"row", &Commands::Row},
+      {"changes", &Commands::PrintChanges}};
   const auto found = kCommands.find(name);
   return found == kCommands.end() ? nullptr : found->second;
 }
 
-void Commands::Run(std::string_view line) {
-  Words words(line);
+void Commands::Run(Words words) {
   const std::string name = words.Take();
   const Command command = CommandNamed(name);
   if (command == nullptr) throw NotACommand("unknown command " + Quoted(name));
@@ -125,10 +126,15 @@ void Commands::Type(Words& words) {
   const auto target = TakeControlOf<TextBox>(words, "text box");
   const std::string text = words.Take();
   words.End();
+  TypeInto(target, text);
+}
+
+bool Commands::TypeInto(const Target<TextBox>& target, std::string_view text) {
   for (const std::string& character : SplitCharacters(text)) {
-    if (!MayUse(target)) return;
+    if (!MayUse(target)) return false;
     hands_.Type(target.control, character);
   }
+  return true;
 }
 
 void Commands::Clear(Words& words) {
@@ -151,9 +157,13 @@ void Commands::Pick(Words& words) {
   const auto list = TakeControlOf<ComboBox>(words, "drop-down list");
   const int position = words.TakeNumber();
   words.End();
-  if (MayUse(list, position >= 0 && position < list.control.Count())) {
-    hands_.Pick(list.control, position);
-  }
+  PickFrom(list, position);
+}
+
+bool Commands::PickFrom(const Target<ComboBox>& list, int position) {
+  if (!MayUse(list, position >= 0 && position < list.control.Count())) return false;
+  hands_.Pick(list.control, position);
+  return true;
 }
 
 void Commands::ClickCell(Words& words) {
@@ -194,6 +204,49 @@ void Commands::Hover(Words& words) {
     words.End();
     if (MayUse(target)) hands_.Hover(target.control);
   }
+}
+
+void Commands::Row(Words& words) {
+  std::vector<RowKeys> rows;
+  do rows.push_back(KeysOf(words.Take()));
+  while (words.AreLeft());
+  for (const RowKeys& keys : rows) {
+    if (!EnterRow(keys)) return;
+  }
+}
+
+bool Commands::EnterRow(const RowKeys& keys) {
+  if (!PressKey("INST", keys.instruction)) return false;
+  for (const int index : keys.registers) {
+    if (!PressKey("REG", index)) return false;
+  }
+  for (const int digit : keys.digits) {
+    if (!PressKey("NUM", digit)) return false;
+  }
+  if (!keys.label.empty()) {
+    return EnterName({"LabelText", "ExistingLabelOption", "LabelCombo", "LabelAcceptButton"},
+                     keys.label);
+  }
+  return keys.variable.empty() ||
+         EnterName({"XXText", "ExistingXXOption", "XXCombo", "XXAcceptButton"}, keys.variable);
+}
+
+bool Commands::PressKey(const std::string& name, int index) {
+  const Target<Control> key{name, *Panel().Find(name, index)};
+  if (!MayUse(key)) return false;
+  hands_.Click(key.control);
+  return true;
+}
+
+bool Commands::EnterName(const NameBox& box, const std::string& name) {
+  auto& list = dynamic_cast<ComboBox&>(*Panel().Find(box.list));
+  const int position = list.Find(name);
+  if (position >= 0) {
+    if (!PressKey(box.known) || !PickFrom({box.list, list}, position)) return false;
+  } else if (!TypeInto({box.text, dynamic_cast<TextBox&>(*Panel().Find(box.text))}, name)) {
+    return false;
+  }
+  return PressKey(box.accept);
 }
 
 Form& Commands::ActiveWindow() {
@@ -304,6 +357,12 @@ void Commands::List(Words& words) {
   const auto list = TakeControlOf<TextList>(words, "list");
   words.End();
   if (list.control.form()->visible()) PrintList(transcript_, list.name, list.control);
+}
+
+void Commands::PrintChanges(Words& words) {
+  words.End();
+  changes_.Print(transcript_);
+  hands_.OnState();
 }
 
 }  // namespace quilla::robot

@@ -9,7 +9,9 @@
 
 #include "panel/quilla.h"
 #include "platform/button.h"
+#include "robot/changes.h"
 #include "robot/hands.h"
+#include "robot/row_text.h"
 #include "robot/scripted_outside.h"
 #include "robot/words.h"
 
@@ -18,10 +20,16 @@ namespace quilla::robot {
 class Commands {
  public:
   Commands(std::ostream& transcript, ScriptedOutside& outside, Quilla& quilla, Hands& hands)
-      : transcript_(transcript), outside_(outside), quilla_(quilla), hands_(hands) {}
+      : transcript_(transcript),
+        outside_(outside),
+        quilla_(quilla),
+        hands_(hands),
+        changes_(quilla) {}
 
-  /// Carries out one line of the script. Fails with NotACommand for a line that is none.
-  void Run(std::string_view line);
+  /// Takes note of how all stands when the panel has opened.
+  void Begin() { changes_.Begin(); }
+  /// Carries out one command of the script. Fails with NotACommand for words that are none.
+  void Run(Words words);
 
  private:
   using Command = void (Commands::*)(Words&);
@@ -45,6 +53,7 @@ class Commands {
   void ClickCell(Words& words);
   void Drag(Words& words);
   void Hover(Words& words);
+  void Row(Words& words);
   void Enter(Words& words);
   void Escape(Words& words);
   void Close(Words& words);
@@ -62,6 +71,7 @@ class Commands {
   void Dump(Words& words);
   void Colors(Words& words);
   void List(Words& words);
+  void PrintChanges(Words& words);
 
   Form& Panel() { return quilla_.panel()->form(); }
   /// The window of that name, or null.
@@ -79,8 +89,20 @@ class Commands {
   bool MayUse(const Target<Type>& target, bool is_inside = true) {
     return MayUse(target.name, target.control, is_inside);
   }
+  /// The presses of `row`: false if one was refused.
+  bool EnterRow(const RowKeys& keys);
+  bool PressKey(const std::string& name, int index = Control::kNoIndex);
+  /// Accepts a name in the box whose controls have these names: picked if it is known.
+  struct NameBox {
+    const char* text;
+    const char* known;
+    const char* list;
+    const char* accept;
+  };
+  bool EnterName(const NameBox& box, const std::string& name);
+  bool TypeInto(const Target<TextBox>& target, std::string_view text);
+  bool PickFrom(const Target<ComboBox>& list, int position);
   void DragBetween(const Target<Grid>& grid, Cell from, Cell to);
-  void HoverOver(const std::string& name, Control& control);
   /// Whether the button of the active window is there and can be pressed.
   bool MayPress(const Form& form, const Button* button);
   Form& ActiveWindow();
@@ -89,6 +111,7 @@ class Commands {
   ScriptedOutside& outside_;
   Quilla& quilla_;
   Hands& hands_;
+  Changes changes_;
 };
 
 }  // namespace quilla::robot

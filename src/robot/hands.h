@@ -50,7 +50,8 @@ class Hands {
   /// Closes a window by its frame.
   virtual void Close(Form& form) = 0;
 
-  /// The script has printed the state: the time to compare what is shown with the models.
+  /// The script has printed the state or what has changed: the time to compare what is shown with
+  /// the models.
   virtual void OnState() {}
 };
 

@@ -26,21 +26,19 @@ std::string VisibleBoxes(const Form& panel) {
   return names.empty() ? " -" : names;
 }
 
+}  // namespace
+
 std::string ColorText(CellColor color) {
   if (color == kSelectionColor) return "cursor";
   return color.is_painted() ? PaddedHexText(color.value(), kColorDigits) : "-";
 }
 
-}  // namespace
-
-void PrintState(std::ostream& transcript, const Session& session) {
+std::vector<std::pair<std::string, std::string>> NumbersOf(const Session& session) {
+  std::vector<std::pair<std::string, std::string>> numbers;
   const auto number = [&](const char* name, int value) {
-    transcript << name << ' ' << value << '\n';
+    numbers.emplace_back(name, std::to_string(value));
   };
   const auto flag = [&](const char* name, bool value) { number(name, value ? 1 : 0); };
-  const auto text = [&](const char* name, const std::string& value) {
-    transcript << name << ' ' << Quoted(value) << '\n';
-  };
   number("PanelState", static_cast<int>(session.CurrentPanelState));
   number("CurrentRow", session.CurrentRow);
   number("LastLine", session.LastLine);
@@ -52,6 +50,14 @@ void PrintState(std::ostream& transcript, const Session& session) {
   number("SelectionBottom", session.SelectionBottom);
   flag("PortOpen", session.PortOpen);
   number("AddressError", session.AddressError ? -1 : 0);
+  return numbers;
+}
+
+void PrintState(std::ostream& transcript, const Session& session) {
+  const auto text = [&](const char* name, const std::string& value) {
+    transcript << name << ' ' << Quoted(value) << '\n';
+  };
+  for (const auto& [name, value] : NumbersOf(session)) transcript << name << ' ' << value << '\n';
   text("FileName", session.FileName);
   text("EntryMode", session.menu.EntryMode.caption());
   text("WriteModeLabel", session.WriteModeLabel.caption());

@@ -4,6 +4,8 @@
 
 #include <ostream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/grid.h"
@@ -12,6 +14,8 @@
 
 namespace quilla::robot {
 
+/// The variables of the session that are numbers and flags, by name.
+std::vector<std::pair<std::string, std::string>> NumbersOf(const Session& session);
 /// The session: its numbers, its texts, and the input boxes on view.
 void PrintState(std::ostream& transcript, const Session& session);
 
@@ -27,6 +31,8 @@ void PrintCells(std::ostream& transcript, const Grid& grid, int row);
 /// Rows `first` to `last`, as far as the grid has them, that hold a text.
 void PrintRows(std::ostream& transcript, const std::string& name, const Grid& grid, int first,
                int last);
+/// A colour: its six digits, "-" for the grid's own, "cursor" for the selection colour.
+std::string ColorText(CellColor color);
 /// Each cell whose colour is not the grid's own.
 void PrintColors(std::ostream& transcript, const std::string& name, const Grid& grid);
 /// Each entry of a list.

@@ -1,8 +1,7 @@
 #include "robot/robot.h"
 
 #include <string>
-
-#include "robot/words.h"
+#include <utility>
 
 namespace quilla::robot {
 namespace {
@@ -23,14 +22,15 @@ Robot::Robot(std::istream& script, std::ostream& transcript, std::ostream& error
       quilla_(outside_.ports),
       hands_(make_hands(quilla_, outside_.event_loop)),
       commands_(transcript, outside_, quilla_, *hands_) {
-  outside_.event_loop.play_line = [this] { return PlayNextLine(); };
+  outside_.event_loop.play_command = [this] { return PlayNextCommand(); };
 }
 
 int Robot::Play() {
   try {
     quilla_.Start();
     outside_.clock.Pass(kSplashMilliseconds);
-    while (PlayNextLine()) {
+    commands_.Begin();
+    while (PlayNextCommand()) {
     }
   } catch (const ScriptOver&) {
   } catch (const ProgramEnded&) {
@@ -42,15 +42,19 @@ int Robot::Play() {
   return kPlayed;
 }
 
-bool Robot::PlayNextLine() {
-  std::string line;
-  do {
+bool Robot::PlayNextCommand() {
+  while (line_.empty()) {
+    std::string line;
     if (!std::getline(script_, line)) return false;
     ++line_number_;
     if (line.ends_with('\r')) line.pop_back();
-  } while (line.empty() || line.front() == '#');
-  transcript_ << "> " << line << '\n';
-  commands_.Run(line);
+    if (line.empty() || line.front() == '#') continue;
+    transcript_ << "> " << line << '\n';
+    line_ = CommandsOf(line);
+  }
+  Words command = std::move(line_.front());
+  line_.pop_front();
+  commands_.Run(std::move(command));
   if (outside_.event_loop.ended()) throw ProgramEnded{};
   return true;
 }

@@ -3,6 +3,7 @@
 #ifndef QUILLA_ROBOT_ROBOT_H_
 #define QUILLA_ROBOT_ROBOT_H_
 
+#include <deque>
 #include <istream>
 #include <memory>
 #include <ostream>
@@ -12,6 +13,7 @@
 #include "robot/hands.h"
 #include "robot/model_hands.h"
 #include "robot/scripted_outside.h"
+#include "robot/words.h"
 
 namespace quilla::robot {
 
@@ -33,13 +35,16 @@ class Robot {
   ScriptedEventLoop& event_loop() { return outside_.event_loop; }
 
  private:
-  /// Plays the next line that is neither empty nor a comment; false at the end of the script.
-  bool PlayNextLine();
+  /// Plays the next command, of the line at hand or of the next one that is neither empty nor a
+  /// comment; false at the end of the script.
+  bool PlayNextCommand();
 
   std::istream& script_;
   std::ostream& transcript_;
   std::ostream& errors_;
   int line_number_ = 0;
+  /// What the line at hand still holds; a handler that waits takes it from here.
+  std::deque<Words> line_;
   ScriptedOutside outside_;
   Quilla quilla_;
   std::unique_ptr<Hands> hands_;

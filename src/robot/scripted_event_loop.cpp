@@ -34,7 +34,7 @@ void ScriptedEventLoop::CloseWindow(Form& form) {
 
 void ScriptedEventLoop::Yield(const Control& waiter) {
   try {
-    if (!play_line()) throw ScriptOver{};
+    if (!play_command()) throw ScriptOver{};
   } catch (const ScriptOver&) {
     transcript_ << "waiting " << waiter.name() << '\n';
     throw;

@@ -19,8 +19,8 @@ class ScriptedEventLoop : public EventLoop {
  public:
   explicit ScriptedEventLoop(std::ostream& transcript) : transcript_(transcript) {}
 
-  /// Plays one line for a handler that waits; false at the end of the script.
-  std::function<bool()> play_line;
+  /// Plays one command for a handler that waits; false at the end of the script.
+  std::function<bool()> play_command;
   /// Told when a window, the panel included, comes into sight and goes.
   std::function<void(Form&)> on_open;
   std::function<void(Form&)> on_close;
@@ -32,7 +32,7 @@ class ScriptedEventLoop : public EventLoop {
   const Form* modal() const;
   bool ended() const { return ended_; }
 
-  /// One turn of a waiting loop is one line of the script. At its end the wait is abandoned with
+  /// One turn of a waiting loop is one command of the script. At its end the wait is abandoned with
   /// ScriptOver, here and below.
   void Yield(const Control& waiter) override;
   void End() override { ended_ = true; }

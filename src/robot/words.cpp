@@ -14,6 +14,7 @@ namespace quilla::robot {
 namespace {
 
 constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kCommandMark = ";";
 constexpr char kQuote = '"';
 constexpr char kEscape = '\\';
 constexpr std::uint8_t kFirstPrintable = 0x20;
@@ -30,9 +31,10 @@ class WordReader {
   explicit WordReader(std::string_view line) : rest_(line) { SkipBlanks(); }
 
   bool AtEnd() const { return rest_.empty(); }
+  bool AtQuote() const { return rest_.front() == kQuote; }
 
   std::string Next() {
-    std::string word = rest_.front() == kQuote ? QuotedWord() : PlainWord();
+    std::string word = AtQuote() ? QuotedWord() : PlainWord();
     SkipBlanks();
     return word;
   }
@@ -103,8 +105,20 @@ std::string Quoted(std::string_view text) {
   return quoted + kQuote;
 }
 
-Words::Words(std::string_view line) {
-  for (WordReader reader(line); !reader.AtEnd();) words_.push_back(reader.Next());
+std::deque<Words> CommandsOf(std::string_view line) {
+  std::deque<Words> commands;
+  std::vector<std::string> words;
+  for (WordReader reader(line); !reader.AtEnd();) {
+    const bool is_quoted = reader.AtQuote();
+    std::string word = reader.Next();
+    if (word == kCommandMark && !is_quoted) {
+      commands.emplace_back(std::exchange(words, {}));
+    } else {
+      words.push_back(std::move(word));
+    }
+  }
+  commands.emplace_back(std::move(words));
+  return commands;
 }
 
 std::string Words::Take() {

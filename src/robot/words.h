@@ -3,8 +3,10 @@
 #define QUILLA_ROBOT_WORDS_H_
 
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quilla::robot {
@@ -23,12 +25,10 @@ class NotACommand {
 /// The text in double quotes, with every character escaped that would not stand as itself.
 std::string Quoted(std::string_view text);
 
-/// The words of one line, taken one after the other.
+/// The words of one command, taken one after the other.
 class Words {
  public:
-  /// Fails with NotACommand for a quoted word that is not closed, goes on behind its closing
-  /// quote, or holds an unknown escape.
-  explicit Words(std::string_view line);
+  explicit Words(std::vector<std::string> words) : words_(std::move(words)) {}
 
   bool AreLeft() const { return next_ < words_.size(); }
   /// The next word. Fails with NotACommand when none is left.
@@ -43,6 +43,11 @@ class Words {
   std::vector<std::string> words_;
   std::size_t next_ = 0;
 };
+
+/// The commands of a line: a bare ";" that is a word by itself stands between two. Fails with
+/// NotACommand for a quoted word that is not closed, goes on behind its closing quote, or holds an
+/// unknown escape.
+std::deque<Words> CommandsOf(std::string_view line);
 
 }  // namespace quilla::robot
 

@@ -143,7 +143,7 @@ TEST_F(OutsideTest, WaitsAreAbandonedInnermostFirst) {
   Form dialog("InnerDialog");
   Form outer("OuterDialog");
   int lines = 0;
-  loop.play_line = [&] {
+  loop.play_command = [&] {
     if (++lines == 2) loop.ShowModal(dialog);
     return lines < 3;
   };
@@ -158,7 +158,7 @@ TEST_F(OutsideTest, DialogWaitsUntilItIsClosedAndBlocksMeanwhile) {
   Form dialog("Dialog");
   Form window("Window");
   loop.Show(window);
-  loop.play_line = [&] {
+  loop.play_command = [&] {
     EXPECT_EQ(loop.modal(), &dialog);
     EXPECT_EQ(loop.active(), &dialog);
     loop.Unload(dialog);

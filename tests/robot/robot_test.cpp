@@ -50,7 +50,26 @@ TEST(RobotTest, StopsAtTheFirstLineThatIsNoCommand) {
                                  "dump Table1 0 1 2",
                                  "colors HexList",
                                  "list Table1",
-                                 "feed \"a"}) {
+                                 "feed \"a",
+                                 "changes now",
+                                 "escape ;",
+                                 "; escape",
+                                 "escape ; escape \";\"",
+                                 "row",
+                                 "row NOP jmp",
+                                 "row \"\"",
+                                 "row \"RET A\"",
+                                 "row NOP,",
+                                 "row \"ADD SP\"",
+                                 "row \"MOV M,M\"",
+                                 "row \"MOV A\"",
+                                 "row \"MVI A\"",
+                                 "row \"MVI A,\"",
+                                 "row \"LDAX H\"",
+                                 "row \"PUSH SP\"",
+                                 "row \"LXI PSW,a\"",
+                                 "row \"RST 8\"",
+                                 "row \"JMP a,b\""}) {
     std::istringstream script("# comment\n\nescape\n" + line + "\nshow TipsLabel\n");
     std::ostringstream transcript;
     std::ostringstream errors;

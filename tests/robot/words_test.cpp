@@ -11,7 +11,7 @@ namespace {
 
 std::vector<std::string> AllWords(std::string_view line) {
   std::vector<std::string> all;
-  for (Words words(line); words.AreLeft();) all.push_back(words.Take());
+  for (Words words = CommandsOf(line).front(); words.AreLeft();) all.push_back(words.Take());
   return all;
 }
 
@@ -35,18 +35,18 @@ TEST(WordsTest, AreSeparatedByBlanksAndMayStandInQuotes) {
 TEST(WordsTest, QuotesThatCannotBeReadAreNoCommand) {
   for (const std::string_view line : {R"(feed ")", R"(feed "a\")", R"(feed "a"b)", R"(feed "\q")",
                                       R"(feed "\x4")", R"(feed "\xG0")", R"(feed "\x)"}) {
-    EXPECT_THROW(Words{line}, NotACommand) << line;
+    EXPECT_THROW(CommandsOf(line), NotACommand) << line;
   }
 }
 
 TEST(WordsTest, NumbersAreDecimalAndEndAtTheWidthOfAnInt) {
   using Limits = std::numeric_limits<int>;
-  Words words("12 -3 99999999999 -99999999999");
+  Words words = CommandsOf("12 -3 99999999999 -99999999999").front();
   for (const int number : {12, -3, Limits::max(), Limits::min()}) {
     EXPECT_EQ(words.TakeNumber(), number);
   }
   for (const std::string_view bad : {"", "\"\"", "1x", "x", "+1", "0x10", "99999999999x"}) {
-    EXPECT_THROW(Words(bad).TakeNumber(), NotACommand) << bad;
+    EXPECT_THROW(CommandsOf(bad).front().TakeNumber(), NotACommand) << bad;
   }
 }
 

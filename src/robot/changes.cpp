@@ -1,0 +1,249 @@
+#include "robot/changes.h"
+
+#include <utility>
+
+#include "platform/button.h"
+#include "platform/grid.h"
+#include "platform/text_box.h"
+#include "platform/text_list.h"
+#include "robot/report.h"
+#include "robot/words.h"
+#include "robot/wrapped_line.h"
+
+namespace quilla::robot {
+namespace {
+
+constexpr const char* kNobody = "-";
+
+bool StandsInSight(const Control& control) {
+  return control.container() == nullptr || control.container()->IsVisible();
+}
+
+}  // namespace
+
+std::string Changes::TextOf(const Name& name) {
+  const auto& [window, own_name, index] = name;
+  const std::string text = window.empty() ? own_name : window + "." + own_name;
+  return index == Control::kNoIndex ? text : text + " " + std::to_string(index);
+}
+
+struct Changes::News {
+  std::vector<std::pair<Name, std::string>> captions;
+  std::vector<std::pair<Name, std::string>> texts;
+  std::vector<Name> shown;
+  std::vector<Name> hidden;
+  std::vector<Name> enabled;
+  std::vector<Name> disabled;
+  std::vector<Name> checked;
+  std::vector<Name> unchecked;
+
+  /// Takes note of how a control in sight differs from what it was. What a control that is hidden
+  /// itself has besides stays as it was.
+  void Compare(const Name& name, Look& before, const Look& now) {
+    const auto flag = [&](bool& old, bool value, std::vector<Name>& on, std::vector<Name>& off) {
+      if (old != value) (value ? on : off).push_back(name);
+      old = value;
+    };
+    const auto text = [&](std::string& old, const std::string& value, auto& changed) {
+      if (old != value) changed.emplace_back(name, value);
+      old = value;
+    };
+    flag(before.visible, now.visible, shown, hidden);
+    if (!now.visible) return;
+    text(before.caption, now.caption, captions);
+    text(before.text, now.text, texts);
+    flag(before.enabled, now.enabled, enabled, disabled);
+    flag(before.checked, now.checked, checked, unchecked);
+  }
+
+  static void PrintTexts(std::ostream& transcript, const char* kind,
+                         const std::vector<std::pair<Name, std::string>>& changed) {
+    WrappedLine line(transcript, kind);
+    for (const auto& [name, text] : changed) line.Add(TextOf(name) + "=" + Quoted(text));
+  }
+
+  /// The names in one line, the members of a control array together.
+  static void PrintNames(std::ostream& transcript, const char* kind,
+                         const std::vector<Name>& names) {
+    WrappedLine line(transcript, kind);
+    for (auto name = names.begin(); name != names.end();) {
+      const auto& [window, own_name, index] = *name;
+      std::string text = TextOf({window, own_name, Control::kNoIndex});
+      char separator = ' ';
+      do {
+        const int first = std::get<2>(*name);
+        int last = first;
+        for (++name; name != names.end() && *name == Name(window, own_name, last + 1); ++name) {
+          ++last;
+        }
+        if (first != Control::kNoIndex) text += separator + RangeText(first, last);
+        separator = ',';
+      } while (name != names.end() && std::get<0>(*name) == window &&
+               std::get<1>(*name) == own_name);
+      line.Add(text);
+    }
+  }
+
+  void Print(std::ostream& transcript) const {
+    PrintTexts(transcript, "caption:", captions);
+    PrintTexts(transcript, "text:", texts);
+    PrintNames(transcript, "shown:", shown);
+    PrintNames(transcript, "hidden:", hidden);
+    PrintNames(transcript, "enabled:", enabled);
+    PrintNames(transcript, "disabled:", disabled);
+    PrintNames(transcript, "checked:", checked);
+    PrintNames(transcript, "unchecked:", unchecked);
+  }
+};
+
+std::vector<std::pair<std::string, std::string>> Changes::VariablesOf(const Session& session) {
+  auto variables = NumbersOf(session);
+  // The number of rows is told with the table.
+  std::erase_if(variables, [](const auto& variable) { return variable.first == "Rows"; });
+  const auto add = [&](std::string name, std::string value) {
+    variables.emplace_back(std::move(name), std::move(value));
+  };
+  add("SelectionAnchor", std::to_string(session.SelectionAnchor));
+  add("ClickedRow", std::to_string(session.ClickedRow));
+  add("SelectedInstruction", std::to_string(session.SelectedInstruction));
+  add("CurrentOpcode", std::to_string(session.CurrentOpcode));
+  for (std::size_t i = 0; i < session.SavedCells.size(); ++i) {
+    add("SavedCells(" + std::to_string(i) + ")", Quoted(session.SavedCells[i]));
+  }
+  add("SavedComment", Quoted(session.SavedComment));
+  add("FileName", Quoted(session.FileName));
+  add("ProjectPath", Quoted(session.ProjectPath));
+  add("HexPath", Quoted(session.HexPath));
+  add("MessageResult", Quoted(session.MessageResult));
+  add("NextLabelNumber", std::to_string(session.NextLabelNumber));
+  add("NextVariableNumber", std::to_string(session.NextVariableNumber));
+  add("CommPort", std::to_string(session.MSComm1.CommPort));
+  return variables;
+}
+
+Changes::Look Changes::LookOf(const Control& control) {
+  // That a window opens and closes is told when it does.
+  const bool visible = control.visible() || control.container() == nullptr;
+  Look look{control.caption(), {}, visible, control.enabled(), false};
+  if (const auto* const text_box = dynamic_cast<const TextBox*>(&control)) {
+    look.text = text_box->text();
+  } else if (const auto* const combo = dynamic_cast<const ComboBox*>(&control)) {
+    look.text = combo->text();
+  } else if (const auto* const option = dynamic_cast<const Option*>(&control)) {
+    look.checked = option->checked();
+  } else if (const auto* const entry = dynamic_cast<const MenuEntry*>(&control)) {
+    look.checked = entry->checkable() && entry->checked();
+  }
+  return look;
+}
+
+Changes::Name Changes::NameOf(const Control& control) {
+  const Form& form = *control.form();
+  const bool needs_window = &form != &quilla_.panel()->form() && &form != &control;
+  return {needs_window ? form.name() : std::string(), control.name(), control.index()};
+}
+
+std::string Changes::NameOf(const Form& form, const Control* control) {
+  if (control != nullptr) return TextOf(NameOf(*control));
+  return TextOf({&form == &quilla_.panel()->form() ? std::string() : form.name(), kNobody,
+                 Control::kNoIndex});
+}
+
+bool Changes::IsTold(const TextList& list) {
+  const Session& session = quilla_.panel()->session();
+  const bool is_copy = dynamic_cast<const ComboBox*>(&list) != nullptr &&
+                       &list != &session.LabelCombo && &list != &session.XXCombo;
+  return !is_copy || list.IsVisible();
+}
+
+void Changes::Begin() {
+  for (const auto& [name, value] : VariablesOf(quilla_.panel()->session())) {
+    variables_[name] = value;
+  }
+  for (Form* const form : quilla_.Forms()) {
+    looks_[NameOf(*form)] = LookOf(*form);
+    for (const Control* const control : form->controls()) {
+      const Name name = NameOf(*control);
+      looks_[name] = LookOf(*control);
+      if (const auto* const grid = dynamic_cast<const Grid*>(control)) {
+        tables_[name] = TableRecord(*grid);
+      } else if (const auto* const list = dynamic_cast<const TextList*>(control)) {
+        tables_[name] = TableRecord(*list);
+      }
+    }
+    focus_[form] = NameOf(*form, form->focused());
+    default_[form] = NameOf(*form, form->default_button());
+  }
+}
+
+void Changes::Print(std::ostream& transcript) {
+  PrintVariables(transcript);
+  std::vector<Form*> forms = quilla_.Forms();
+  std::erase_if(forms, [](const Form* form) { return !form->visible(); });
+  // In order of their names, so that it does not matter in which order they were made.
+  std::map<Name, Control*> controls;
+  for (Form* const form : forms) {
+    controls[NameOf(*form)] = form;
+    for (Control* const control : form->controls()) controls[NameOf(*control)] = control;
+  }
+  PrintTables(transcript, controls);
+  News news;
+  for (const auto& [name, control] : controls) {
+    if (StandsInSight(*control)) news.Compare(name, looks_[name], LookOf(*control));
+  }
+  news.Print(transcript);
+  WrappedLine focus(transcript, "focus:");
+  for (const Form* const form : forms) {
+    Add(focus, focus_[form], *form, form->focused());
+  }
+  focus.End();
+  WrappedLine default_button(transcript, "default:");
+  for (const Form* const form : forms) {
+    Add(default_button, default_[form], *form, form->default_button());
+  }
+}
+
+void Changes::Add(WrappedLine& line, std::string& before, const Form& form,
+                  const Control* control) {
+  if (control != nullptr && !control->IsVisible()) return;
+  std::string now = NameOf(form, control);
+  if (now == before) return;
+  line.Add(now);
+  before = std::move(now);
+}
+
+void Changes::PrintVariables(std::ostream& transcript) {
+  WrappedLine line(transcript, "session:");
+  for (const auto& [name, value] : VariablesOf(quilla_.panel()->session())) {
+    if (variables_[name] == value) continue;
+    line.Add(name + "=" + value);
+    variables_[name] = value;
+  }
+}
+
+void Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control*>& controls) {
+  struct Table {
+    std::string name;
+    TableRecord* before;
+    TableRecord now;
+  };
+  std::vector<Table> changed;
+  const auto compare = [&](const Name& name, const auto& table) {
+    TableRecord& before = tables_[name];
+    if (!before.Matches(table)) changed.push_back({TextOf(name), &before, TableRecord(table)});
+  };
+  for (const auto& [name, control] : controls) {
+    if (const auto* const grid = dynamic_cast<const Grid*>(control)) {
+      compare(name, *grid);
+    } else if (const auto* const list = dynamic_cast<const TextList*>(control)) {
+      if (IsTold(*list)) compare(name, *list);
+    }
+  }
+  for (const Table& table : changed) table.before->PrintTexts(transcript, table.name, table.now);
+  for (Table& table : changed) {
+    table.before->PrintColors(transcript, table.name + " colors", table.now);
+    *table.before = std::move(table.now);
+  }
+}
+
+}  // namespace quilla::robot

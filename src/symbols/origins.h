@@ -23,9 +23,10 @@ class Origins {
 
   /// Rebuilds OriginList from the table and paints the origin rows.
   void UpdateOrigins();
+  /// Paints the cells of a row as those of an origin. Fails with `kOutsideTable`.
+  void ColorOrigin(int row);
 
  private:
-  void ColorOrigin(int row);
   bool IsTaken(const std::string& address);
 
   Session& session_;

@@ -1,0 +1,127 @@
+#include "disassembler/stages.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "isa/instruction_set.h"
+#include "platform/number_text.h"
+#include "program/opcode_cell.h"
+
+namespace quilla {
+namespace {
+
+constexpr const char* kVariablePrefix = "v";
+constexpr const char* kLabelPrefix = "a";
+constexpr const char* kBeforeOperand = "  ";
+
+/// The strings that operands are called by, those that the session has and new ones.
+class OperandNames {
+ public:
+  explicit OperandNames(Session& session)
+      : session_(session),
+        labels_(session.LabelCombo.items()),
+        addresses_(session.LabelEqtList.items()),
+        variables_(session.XXCombo.items()),
+        bytes_(session.XXEqtList.items()) {
+    for (std::size_t i = 0; i < addresses_.size(); ++i) by_address_.emplace(addresses_[i], i);
+  }
+
+  /// A new variable for a byte.
+  const std::string& VariableFor(std::string_view byte) {
+    bytes_.emplace_back(byte);
+    return variables_.emplace_back(kVariablePrefix + std::to_string(session_.NextVariableNumber++));
+  }
+
+  /// The first label with this equivalent, or a new one.
+  const std::string& LabelFor(std::string address) {
+    const auto [known, is_new] = by_address_.emplace(std::move(address), labels_.size());
+    if (is_new) {
+      addresses_.push_back(known->first);
+      labels_.push_back(kLabelPrefix + std::to_string(session_.NextLabelNumber++));
+    }
+    return labels_[known->second];
+  }
+
+  /// Gives the session all strings.
+  void Store() {
+    session_.LabelCombo.Assign(std::move(labels_));
+    session_.LabelEqtList.Assign(std::move(addresses_));
+    session_.XXCombo.Assign(std::move(variables_));
+    session_.XXEqtList.Assign(std::move(bytes_));
+  }
+
+ private:
+  Session& session_;
+  std::vector<std::string> labels_;
+  std::vector<std::string> addresses_;
+  std::vector<std::string> variables_;
+  std::vector<std::string> bytes_;
+  std::unordered_map<std::string, std::size_t> by_address_;
+};
+
+}  // namespace
+
+void CopyOpcodes(const ProgramLayout& layout, Session& session, Rows& rows, Origins& origins) {
+  Grid& table = session.Table1;
+  for (TextList* list : {static_cast<TextList*>(&session.LabelCombo), &session.LabelPlacedList,
+                         &session.LabelEqtList, &session.LabelUsedList, &session.LabelLineList,
+                         static_cast<TextList*>(&session.XXCombo), &session.XXEqtList}) {
+    list->Clear();
+  }
+  rows.SetRows(session.LastLine + kSpareRows);
+  session.CurrentRow = std::min(session.CurrentRow, table.Rows() - 1);
+  table.Clear();
+  session.StringTable.Clear();
+  for (int row = 0; row <= session.LastLine; ++row) {
+    table.SetTextMatrix(row, kOpcodeColumn, OpcodeCellOf(layout, row));
+  }
+  for (const std::string& entry : layout.OriginList) {
+    const auto row = static_cast<int>(DecimalValue(std::string_view(entry).substr(kAddressDigits)));
+    table.SetTextMatrix(row, kAddressColumn, entry.substr(0, kAddressDigits));
+    table.SetTextMatrix(row, kLabelColumn, kOrigin);
+    origins.ColorOrigin(row);
+  }
+}
+
+void NameOperands(const ProgramLayout& layout, Session& session) {
+  Grid& table = session.Table1;
+  session.NextVariableNumber = 0;
+  session.NextLabelNumber = 0;
+  OperandNames names(session);
+  for (int row = 0; row < table.Rows(); ++row) {
+    const std::string& cell = table.TextMatrix(row, kOpcodeColumn);
+    if (cell.empty() || session.IsOrigin(row)) continue;
+    if (!layout.InstructionFlag.at(static_cast<std::size_t>(row))) {
+      table.SetTextMatrix(row, kMnemonicColumn, kDataMnemonic);
+      continue;
+    }
+    std::string mnemonic(MnemonicsLUTList(OpcodeOf(cell)));
+    std::string operand;
+    if (HasVariable(cell)) operand = names.VariableFor(ByteAt(cell, 1));
+    if (HasLabel(cell)) operand = names.LabelFor(AddressIn(cell));
+    if (!operand.empty()) mnemonic.append(kBeforeOperand).append(operand);
+    table.SetTextMatrix(row, kMnemonicColumn, std::move(mnemonic));
+    session.StringTable.SetTextMatrix(row, 0, std::move(operand));
+  }
+  names.Store();
+}
+
+void PlaceLabels(Session& session) {
+  Grid& table = session.Table1;
+  std::unordered_map<std::string_view, int> row_at;
+  row_at.reserve(static_cast<std::size_t>(table.Rows()));
+  for (int row = 1; row < table.Rows(); ++row) {
+    if (!session.IsOrigin(row)) row_at.emplace(table.TextMatrix(row, kAddressColumn), row);
+  }
+  for (int label = 0; label < session.LabelCombo.Count(); ++label) {
+    const auto found = row_at.find(session.LabelEqtList[label]);
+    if (found == row_at.end()) continue;
+    table.SetTextMatrix(found->second, kLabelColumn, session.LabelCombo[label]);
+  }
+}
+
+}  // namespace quilla

@@ -29,6 +29,16 @@ CommentTool::CommentTool(Session& session, StateMachine& states)
   CommentsBox_.Hide();
   session_.menu.CommentsTool.Click = [this] { states_.ControlTransfer(PanelState::kComment); };
   states_.SetStatus(BoxId::kComment, [this](bool status) { CommentStatus(status); });
+  states_.SetTableTask(
+      {PanelState::kComment},
+      {.Clicked = [this](int row, int) { EditComment(row); }, .LiveColumns = {kCommentColumn}});
+  states_.SetTableTask({PanelState::kCommentRow}, {.Clicked =
+                                                       [this](int row, int) {
+                                                         Unmark(kNormalColor);
+                                                         EditComment(row);
+                                                       },
+                                                   .Cancelled = [this] { Cancelled(); },
+                                                   .LiveColumns = {kCommentColumn}});
 }
 
 void CommentTool::CommentStatus(bool status) {
@@ -43,9 +53,10 @@ void CommentTool::CommentStatus(bool status) {
   CommentsTxt_.SetFocus();
 }
 
-void CommentTool::EditClickedRow() {
-  session_.Table1.PaintBack(session_.ClickedRow, kCommentColumn, kCommentColor);
-  session_.SavedComment = session_.Table1.TextMatrix(session_.ClickedRow, kCommentColumn);
+void CommentTool::EditComment(int row) {
+  session_.ClickedRow = row;
+  session_.Table1.PaintBack(row, kCommentColumn, kCommentColor);
+  session_.SavedComment = session_.Table1.TextMatrix(row, kCommentColumn);
   states_.ControlTransfer(PanelState::kCommentRow);
 }
 
@@ -60,8 +71,7 @@ void CommentTool::CommentsTxt_Change() {
 
 void CommentTool::CommentNextButton_Click() {
   Unmark(kNormalColor);
-  ++session_.ClickedRow;
-  EditClickedRow();
+  EditComment(session_.ClickedRow + 1);
   session_.FileChanged = true;
 }
 
@@ -79,11 +89,19 @@ void CommentTool::CommentDoneButton_Click() {
 }
 
 void CommentTool::CommentCancelButton_Click() {
-  const int row = session_.ClickedRow;
-  session_.Table1.SetTextMatrix(row, kCommentColumn, session_.SavedComment);
-  Unmark(session_.IsOrigin(row) ? kOriginColor : kNormalColor);
+  session_.Table1.SetTextMatrix(session_.ClickedRow, kCommentColumn, session_.SavedComment);
+  Unmark(ColorOfRow());
   CommentsBox_.Hide();
   states_.ReturnToReady();
+}
+
+void CommentTool::Cancelled() {
+  Grid& table = session_.Table1;
+  table.PaintBack(table.Row(), table.Col(), ColorOfRow());  // the cell clicked last
+}
+
+CellColor CommentTool::ColorOfRow() const {
+  return session_.IsOrigin(session_.ClickedRow) ? kOriginColor : kNormalColor;
 }
 
 void CommentTool::Unmark(CellColor color) {

@@ -12,9 +12,6 @@ class CommentTool {
  public:
   CommentTool(Session& session, StateMachine& states);
 
-  /// Opens the comment of `ClickedRow` for editing.
-  void EditClickedRow();
-
  private:
   void CommentStatus(bool status);
   void CommentsTxt_Change();
@@ -22,6 +19,11 @@ class CommentTool {
   void DefaultCommentButton_Click();
   void CommentDoneButton_Click();
   void CommentCancelButton_Click();
+  /// Marks the comment of a row and opens it for editing.
+  void EditComment(int row);
+  void Cancelled();
+  /// The colour of `ClickedRow` when its comment is not marked.
+  CellColor ColorOfRow() const;
   /// Takes the mark off the comment under edit.
   void Unmark(CellColor color);
 

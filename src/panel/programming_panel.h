@@ -68,9 +68,9 @@ class ProgrammingPanel {
   VariableBox variable_box_{session_};
   VariableEntry variables_{session_, states_, line_, strings_, variable_box_};
   CommentTool comments_{session_, states_};
-  TableClicks table_clicks_{session_, states_, rows_, instructions_, data_, comments_};
+  TableClicks table_clicks_{session_, states_, rows_, origins_, instructions_, data_};
   WriteModeSwitch write_mode_{session_, rows_};
-  CancelAction cancel_{session_, states_, rows_, strings_};
+  CancelAction cancel_{session_, states_, rows_};
   RowClipboard clipboard_{session_, states_, rows_, strings_};
   LabelPlacement placement_{session_, states_, strings_};
   FindLabelTool find_label_{session_, states_, strings_};

@@ -147,6 +147,12 @@ void StateMachine::Status(BoxId box, bool status) const {
   if (found != statuses_.end()) found->second(status);
 }
 
+const TableTask& StateMachine::CurrentTableTask() const {
+  static const TableTask kNone;
+  const auto found = table_tasks_.find(session_.CurrentPanelState);
+  return found != table_tasks_.end() ? found->second : kNone;
+}
+
 void StateMachine::FileMenuStatus(bool status) {
   PanelMenu& menu = session_.menu;
   menu.FileMenu.set_enabled(status);

@@ -33,6 +33,8 @@ FindLabelTool::FindLabelTool(Session& session, StateMachine& states, StringLists
   FindBox_.Hide();
   session_.menu.FindLabel.Click = [this] { states_.ControlTransfer(PanelState::kFindLabel); };
   states_.SetStatus(BoxId::kFind, [this](bool status) { FindStatus(status); });
+  states_.SetTableTask({PanelState::kFindLabel},
+                       {.Cancelled = [this] { painter_.CleanLabelUses(); }});
 }
 
 void FindLabelTool::FindStatus(bool status) {

@@ -33,6 +33,12 @@ ReplaceLabelTool::ReplaceLabelTool(Session& session, StateMachine& states, Strin
   session_.menu.ReplaceLabel.Click = [this] { states_.ControlTransfer(PanelState::kReplaceLabel); };
   states_.SetStatus(BoxId::kReplace, [this](bool status) { ReplaceStatus(status); });
   states_.SetPicked(PanelState::kReplacePicked, [this] { RowPicked(); });
+  TableTask task{.Clicked = [this](int row, int column) { SelectFirst(row, column); },
+                 .Cancelled = [this] { painter_.CleanLabelUses(); },
+                 .LiveColumns = {kLabelColumn, kMnemonicColumn}};
+  states_.SetTableTask({PanelState::kReplaceLabel}, task);
+  task.Clicked = [this](int row, int column) { Toggle(row, column); };
+  states_.SetTableTask({PanelState::kReplacePicked}, task);
 }
 
 void ReplaceLabelTool::ReplaceStatus(bool status) {
@@ -58,6 +64,27 @@ void ReplaceLabelTool::PaintCandidates() {
     if (painter_.HasOperandOfLength(row, kThreeByteCell)) {
       painter_.PaintCandidate(row, kMnemonicColumn);
     }
+  }
+}
+
+void ReplaceLabelTool::SelectFirst(int row, int column) {
+  if (session_.IsOrigin(row)) return;
+  const bool label = column == kLabelColumn && painter_.HasLabel(row);
+  const bool operand = column == kMnemonicColumn && painter_.HasOperand(row);
+  if (label || operand) painter_.Select(row, column);
+  states_.ControlTransfer(PanelState::kReplacePicked);
+}
+
+void ReplaceLabelTool::Toggle(int row, int column) {
+  if (session_.IsOrigin(row)) return;
+  const bool selects = painter_.IsCandidate(row, column);
+  painter_.Toggle(row, column);
+  if (selects && column != kMnemonicColumn) LeaveOnlyLabelSelected(row);
+}
+
+void ReplaceLabelTool::LeaveOnlyLabelSelected(int row) {
+  for (int other = 1; other < session_.Table1.Rows(); ++other) {
+    if (other != row && painter_.HasLabel(other)) painter_.PaintCandidate(other, kLabelColumn);
   }
 }
 

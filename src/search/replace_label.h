@@ -27,6 +27,11 @@ class ReplaceLabelTool {
   void ReplaceAcceptButton_Click();
   void ReplaceDoneButton_Click();
 
+  /// The clicks on the table, the first and those after it.
+  void SelectFirst(int row, int column);
+  void Toggle(int row, int column);
+  void LeaveOnlyLabelSelected(int row);
+
   void PaintCandidates();
   void ReplaceByKnown();
   void ReplaceByNew(const std::string& name);

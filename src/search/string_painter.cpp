@@ -5,6 +5,27 @@
 
 namespace quilla {
 
+void StringPainter::Toggle(int row, int column) {
+  if (IsSelected(row, column)) {
+    PaintCandidate(row, column);
+  } else if (IsCandidate(row, column)) {
+    Select(row, column);
+  }
+}
+
+void StringPainter::CleanLabelUses() {
+  for (int row = 1; row < table_.Rows(); ++row) {
+    if (HasLabel(row)) PaintNormal(row, kLabelColumn);
+  }
+  CleanOperands(kThreeByteCell);
+}
+
+void StringPainter::CleanOperands(std::size_t cell_length) {
+  for (int row = 1; row < table_.Rows(); ++row) {
+    if (HasOperandOfLength(row, cell_length)) PaintNormal(row, kMnemonicColumn);
+  }
+}
+
 int StringPainter::PaintMatch(int row, int column, bool matches) {
   if (matches) {
     PaintFound(row, column);

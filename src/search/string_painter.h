@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "program/opcode_cell.h"
 #include "program/session.h"
 
 namespace quilla {
@@ -28,6 +29,16 @@ class StringPainter {
   bool IsSelected(int row, int column) const {
     return table_.BackColor(row, column) == kPickedColor;
   }
+  bool IsCandidate(int row, int column) const {
+    return table_.BackColor(row, column) == kCandidateColor;
+  }
+
+  void Select(int row, int column) { table_.Paint(row, column, kPickedColor, kBlack); }
+  /// Selects a candidate, or makes a candidate of a selected cell; nothing on any other.
+  void Toggle(int row, int column);
+  /// Takes the colours off all labels and label operands, or off all variable operands.
+  void CleanLabelUses();
+  void CleanVariableUses() { CleanOperands(kTwoByteCell); }
 
   void PaintNormal(int row, int column) { table_.Paint(row, column, kNormalColor, kNormalColor); }
   void PaintCandidate(int row, int column) { table_.Paint(row, column, kCandidateColor, kWhite); }
@@ -43,6 +54,9 @@ class StringPainter {
   void TellUses(std::string_view kind, const std::string& name, int uses);
 
  private:
+  /// Takes the colours off the operands of all rows whose Opcode cell has so many characters.
+  void CleanOperands(std::size_t cell_length);
+
   Session& session_;
   Grid& table_;
 };

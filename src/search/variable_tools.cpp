@@ -16,6 +16,12 @@ VariableTools::VariableTools(Session& session, StateMachine& states, VariableBox
   };
   states_.SetStatus(BoxId::kFindVariable, [this](bool) { OpenFind(); });
   states_.SetStatus(BoxId::kReplaceVariable, [this](bool) { OpenReplace(); });
+  TableTask task{.Cancelled = [this] { painter_.CleanVariableUses(); }};
+  states_.SetTableTask({PanelState::kFindVariable}, task);
+  task.Clicked = [this](int row, int column) { SelectFirst(row, column); };
+  states_.SetTableTask({PanelState::kReplaceVariable}, task);
+  task.Clicked = [this](int row, int column) { painter_.Toggle(row, column); };
+  states_.SetTableTask({PanelState::kVariablePicked}, task);
 }
 
 void VariableTools::OpenFind() {
@@ -53,6 +59,11 @@ bool VariableTools::PaintCandidates() {
     any = true;
   }
   return any;
+}
+
+void VariableTools::SelectFirst(int row, int column) {
+  if (column == kMnemonicColumn && painter_.HasOperand(row)) painter_.Select(row, column);
+  states_.ControlTransfer(PanelState::kVariablePicked);
 }
 
 void VariableTools::TellNoVariables() {

@@ -20,6 +20,8 @@ class VariableTools {
   void OpenReplace();
   /// Paints the variables that can be replaced. Gives whether there are any.
   bool PaintCandidates();
+  /// The first click on the table.
+  void SelectFirst(int row, int column);
   void TellNoVariables();
 
   void XXFindButton_Click();

@@ -28,6 +28,13 @@ LabelPlacement::LabelPlacement(Session& session, StateMachine& states, StringLis
   session_.menu.DeleteLabels.Click = [this] { DeleteLabels_Click(); };
   states_.SetStatus(BoxId::kPlace, [this](bool status) { PlaceStatus(status); });
   states_.SetPicked(PanelState::kPlaceOnRow, [this] { RowPicked(); });
+  states_.SetTableTask({PanelState::kPlaceLabel, PanelState::kPlaceOnRow},
+                       {.Clicked = [this](int row, int) { PickRow(row); },
+                        .Cancelled = [this] { Unmark(); },
+                        .LiveColumns = {kLabelColumn}});
+  states_.SetTableTask({PanelState::kDeleteLabels},
+                       {.Clicked = [this](int row, int column) { TakeLabelOff(row, column); },
+                        .Cancelled = [this] { strings_.UpdateLabels(); }});
 }
 
 void LabelPlacement::PlaceStatus(bool status) {
@@ -44,6 +51,19 @@ void LabelPlacement::PlaceStatus(bool status) {
   OfferNewName(PlaceText_, session_.PlaceCombo);
   PlaceAcceptButton_.set_enabled(false);
   PlaceText_.SetFocus();
+}
+
+void LabelPlacement::PickRow(int row) {
+  if (session_.IsOrigin(row)) return;
+  const bool again = session_.CurrentPanelState == PanelState::kPlaceOnRow;
+  if (again) Unmark();
+  session_.ClickedRow = row;
+  session_.Table1.PaintBack(row, kLabelColumn, kPickedColor);
+  if (!again) states_.ControlTransfer(PanelState::kPlaceOnRow);
+}
+
+void LabelPlacement::Unmark() {
+  session_.Table1.PaintBack(session_.ClickedRow, kLabelColumn, kNormalColor);
 }
 
 void LabelPlacement::RowPicked() {
@@ -87,7 +107,7 @@ void LabelPlacement::PlaceAcceptButton_Click() {
       PlaceKnownLabel(row);
     }
   }
-  session_.Table1.PaintBack(row, kLabelColumn, kNormalColor);
+  Unmark();
   states_.ControlTransfer(PanelState::kPlaceLabel);  // opens afresh, with the lists up to date
   session_.FileChanged = true;
 }
@@ -142,13 +162,20 @@ bool LabelPlacement::MayMoveLabel(int label, int row) {
 
 void LabelPlacement::PlaceDoneButton_Click() {
   PlaceBox_.Hide();
-  session_.Table1.PaintBack(session_.ClickedRow, kLabelColumn, kNormalColor);
+  Unmark();
   states_.ReturnToReady();
 }
 
 void LabelPlacement::DeleteLabels_Click() {
   states_.ControlTransfer(PanelState::kDeleteLabels);
   session_.FileChanged = true;
+}
+
+void LabelPlacement::TakeLabelOff(int row, int column) {
+  if (column != kLabelColumn) return;
+  const int label = session_.LabelCombo.Find(session_.Table1.TextMatrix(row, kLabelColumn));
+  if (label >= 0) session_.LabelEqtList.Set(label, kUnknownAddress);
+  session_.Table1.SetTextMatrix(row, kLabelColumn, {});
 }
 
 }  // namespace quilla

@@ -28,6 +28,10 @@ class LabelPlacement {
   void PlaceDoneButton_Click();
   void DeleteLabels_Click();
 
+  void PickRow(int row);
+  /// Takes the mark off the picked row.
+  void Unmark();
+  void TakeLabelOff(int row, int column);
   void PlaceNewLabel(int row);
   void PlaceKnownLabel(int row);
   bool MayReplaceLabel(int row);

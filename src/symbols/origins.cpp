@@ -9,9 +9,9 @@ constexpr int kLinesOfOrigin = 3;
 }  // namespace
 
 Origins::Origins(Session& session, StateMachine& states, Rows& rows)
-    : session_(session), rows_(rows) {
-  session_.menu.NewOrigin.Click = [&states] { states.ControlTransfer(PanelState::kNewOrigin); };
-  states.SetReady([this] { UpdateOrigins(); });
+    : session_(session), states_(states), rows_(rows) {
+  session_.menu.NewOrigin.Click = [this] { states_.ControlTransfer(PanelState::kNewOrigin); };
+  states_.SetReady([this] { UpdateOrigins(); });
 }
 
 bool Origins::AddOrigin(const std::string& address) {
@@ -45,6 +45,12 @@ bool Origins::ChangeOrigin(const std::string& address) {
   session_.Table1.SetTextMatrix(row, kAddressColumn, address);
   UpdateOrigins();
   return true;
+}
+
+void Origins::ClickLabel(int row) {
+  if (!session_.IsOrigin(row)) return;
+  session_.ClickedRow = row;
+  states_.ControlTransfer(PanelState::kChangeOrigin);
 }
 
 bool Origins::IsTaken(const std::string& address) {

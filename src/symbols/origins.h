@@ -21,6 +21,9 @@ class Origins {
   /// has been told, and OriginList lacks the old address until the next UpdateOrigins.
   bool ChangeOrigin(const std::string& address);
 
+  /// Opens the address of an origin row for a change; nothing on another row.
+  void ClickLabel(int row);
+
   /// Rebuilds OriginList from the table and paints the origin rows.
   void UpdateOrigins();
   /// Paints the cells of a row as those of an origin. Fails with `kOutsideTable`.
@@ -30,6 +33,7 @@ class Origins {
   bool IsTaken(const std::string& address);
 
   Session& session_;
+  StateMachine& states_;
   Rows& rows_;
 };
 

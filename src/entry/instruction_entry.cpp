@@ -1,46 +1,9 @@
 #include "entry/instruction_entry.h"
 
+#include "entry/operands.h"
 #include "isa/instruction_set.h"
 
 namespace quilla {
-namespace {
-
-/// The state in which the operand of an instruction class is entered.
-PanelState OperandState(InstructionClass operand) {
-  switch (operand) {
-    case InstructionClass::kByteData:
-      return PanelState::kByteOperand;
-    case InstructionClass::kRegister:
-      return PanelState::kRegister;
-    case InstructionClass::kLabel:
-      return PanelState::kLabelOperand;
-    case InstructionClass::kPair:
-      return PanelState::kPair;
-    case InstructionClass::kLxi:
-      return PanelState::kLxiPair;
-    case InstructionClass::kMov:
-      return PanelState::kMovDestination;
-    case InstructionClass::kStack:
-      return PanelState::kStackPair;
-    case InstructionClass::kRestart:
-      return PanelState::kRestart;
-    case InstructionClass::kIndirect:
-      return PanelState::kIndirectPair;
-    case InstructionClass::kMvi:
-      return PanelState::kMviRegister;
-    case InstructionClass::kNoOperand:
-      break;
-  }
-  return PanelState::kReady;
-}
-
-/// Whether the opcode is complete but for its operand bytes as soon as the key is pressed.
-bool HasOpcodeAtOnce(InstructionClass operand) {
-  return operand == InstructionClass::kByteData || operand == InstructionClass::kLabel;
-}
-
-}  // namespace
-
 InstructionEntry::InstructionEntry(Session& session, StateMachine& states, EntryLine& line,
                                    RegisterEntry& registers)
     : session_(session),
@@ -74,15 +37,14 @@ void InstructionEntry::INST_Click(int index) {
   const InstructionKey& key = Inst(index);
   session_.Table1.SetTextMatrix(session_.CurrentRow, kMnemonicColumn, std::string(key.caption));
   session_.CurrentOpcode = key.base_opcode;
-  const InstructionClass operand = ClassOf(index);
-  if (operand == InstructionClass::kNoOperand) {
+  const FirstOperand& operand = FirstOperandOf(ClassOf(index));
+  if (operand.state == PanelState::kReady) {
     line_.FinishLine();
-    states_.ControlTransfer(PanelState::kReady);
-    return;
+  } else {
+    session_.EntryPending = true;
+    if (operand.has_opcode_at_once) line_.DisplayOpcode(session_.CurrentRow);
   }
-  session_.EntryPending = true;
-  if (HasOpcodeAtOnce(operand)) line_.DisplayOpcode(session_.CurrentRow);
-  states_.ControlTransfer(OperandState(operand));
+  states_.ControlTransfer(operand.state);
 }
 
 void InstructionEntry::SaveCells() {

@@ -3,7 +3,6 @@
 #include "platform/number_text.h"
 #include "program/opcode_cell.h"
 #include "search/find_label.h"
-#include "symbols/string_inputs.h"
 
 namespace quilla {
 
@@ -13,26 +12,14 @@ ReplaceLabelTool::ReplaceLabelTool(Session& session, StateMachine& states, Strin
       states_(states),
       strings_(strings),
       placement_(placement),
-      painter_(session),
-      ReplaceBox_(&session.ProgrammingPanel, "ReplaceBox"),
-      ReplaceHeading_(&ReplaceBox_, "ReplaceHeading", "Label"),
-      NewReplaceOption_(&ReplaceBox_, "NewReplaceOption", "New:"),
-      ReplaceText_(&ReplaceBox_, "ReplaceText", kLongestName),
-      ExistingReplaceOption_(&ReplaceBox_, "ExistingReplaceOption", "Existing:"),
-      ReplaceAcceptButton_(&ReplaceBox_, "ReplaceAcceptButton", "Replace"),
-      ReplaceDoneButton_(&ReplaceBox_, "ReplaceDoneButton", "Done") {
-  session_.ReplaceCombo.PlaceIn(&ReplaceBox_);
-  session_.ReplaceCombo.Show();
-  ReplaceAcceptButton_.set_enabled(false);
-  ReplaceText_.TextChange = [this] { ReplaceText_Change(); };
-  NewReplaceOption_.Click = [this] { NewReplaceOption_Click(); };
-  ExistingReplaceOption_.Click = [this] { ExistingReplaceOption_Click(); };
-  ReplaceAcceptButton_.Click = [this] { ReplaceAcceptButton_Click(); };
+      painter_(session) {
+  name_.accept_button().set_enabled(false);
+  name_.accept_button().Click = [this] { ReplaceAcceptButton_Click(); };
   ReplaceDoneButton_.Click = [this] { ReplaceDoneButton_Click(); };
   ReplaceBox_.Hide();
   session_.menu.ReplaceLabel.Click = [this] { states_.ControlTransfer(PanelState::kReplaceLabel); };
   states_.SetStatus(BoxId::kReplace, [this](bool status) { ReplaceStatus(status); });
-  states_.SetPicked(PanelState::kReplacePicked, [this] { RowPicked(); });
+  states_.SetPicked(PanelState::kReplacePicked, [this] { name_.RowPicked(); });
   TableTask task{.Clicked = [this](int row, int column) { SelectFirst(row, column); },
                  .Cancelled = [this] { painter_.CleanLabelUses(); },
                  .LiveColumns = {kLabelColumn, kMnemonicColumn}};
@@ -51,11 +38,7 @@ void ReplaceLabelTool::ReplaceStatus(bool status) {
   if (!OfferLabels(session_, states_)) return;
   PaintCandidates();
   ReplaceBox_.Show();
-  ExistingReplaceOption_.set_enabled(!session_.ReplaceCombo.IsEmpty());
-  session_.ReplaceCombo.SelectFirst();
-  NewReplaceOption_.set_checked(true);
-  OfferNewName(ReplaceText_, session_.ReplaceCombo);
-  ReplaceAcceptButton_.set_enabled(false);
+  name_.Open();
 }
 
 void ReplaceLabelTool::PaintCandidates() {
@@ -88,54 +71,24 @@ void ReplaceLabelTool::LeaveOnlyLabelSelected(int row) {
   }
 }
 
-void ReplaceLabelTool::RowPicked() {
-  if (ExistingReplaceOption_.checked()) {
-    ReplaceAcceptButton_.set_enabled(true);
-    ReplaceAcceptButton_.MakeDefault();
-  } else {
-    ReplaceText_Change();
-  }
-}
-
-void ReplaceLabelTool::ReplaceText_Change() {
-  if (!ReplaceText_.enabled()) return;
-  const bool picked = session_.CurrentPanelState == PanelState::kReplacePicked;
-  ReplaceAcceptButton_.set_enabled(picked && IsGoodName(ReplaceText_.text()));
-  if (ReplaceAcceptButton_.enabled()) ReplaceAcceptButton_.MakeDefault();
-}
-
-void ReplaceLabelTool::NewReplaceOption_Click() {
-  OfferNewName(ReplaceText_, session_.ReplaceCombo);
-  ReplaceText_.SetFocus();
-  ReplaceAcceptButton_.set_enabled(true);
-}
-
-void ReplaceLabelTool::ExistingReplaceOption_Click() {
-  OfferKnownName(ReplaceText_, session_.ReplaceCombo);
-  session_.ReplaceCombo.SetFocus();
-  ReplaceAcceptButton_.set_enabled(true);
-  ReplaceAcceptButton_.MakeDefault();
-}
-
 void ReplaceLabelTool::ReplaceAcceptButton_Click() {
-  if (ExistingReplaceOption_.checked()) {
+  if (name_.IsKnown()) {
     ReplaceByKnown();
   } else if (strings_.IsTaken(placement_.NewName())) {  // the place tool's box decides
-    session_.ShowCritical("The string '" + ReplaceText_.text() +
+    session_.ShowCritical("The string '" + name_.NewName() +
                           "' already exists. Please enter another string.");
-    ReplaceText_.set_text({});
-    ReplaceText_.SetFocus();
+    name_.AskAgain();
     return;
   } else {
-    ReplaceByNew(ReplaceText_.text());
+    ReplaceByNew(name_.NewName());
   }
   states_.ControlTransfer(PanelState::kReplaceLabel);  // opens afresh, with the lists up to date
   session_.FileChanged = true;
 }
 
 void ReplaceLabelTool::ReplaceByKnown() {
-  const int label = session_.ReplaceCombo.index();
-  const std::string name = session_.ReplaceCombo.text();
+  const int label = name_.KnownIndex();
+  const std::string name = name_.KnownName();
   bool label_done = false;
   for (int row = 0; row < session_.Table1.Rows(); ++row) {
     if (!label_done && painter_.HasLabel(row) && painter_.IsSelected(row, kLabelColumn)) {

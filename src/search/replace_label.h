@@ -4,11 +4,11 @@
 
 #include <string>
 
-#include "platform/text_box.h"
 #include "program/session.h"
 #include "program/state_machine.h"
 #include "search/string_painter.h"
 #include "symbols/label_placement.h"
+#include "symbols/name_choice.h"
 #include "symbols/string_lists.h"
 
 namespace quilla {
@@ -20,10 +20,6 @@ class ReplaceLabelTool {
 
  private:
   void ReplaceStatus(bool status);
-  void RowPicked();
-  void ReplaceText_Change();
-  void NewReplaceOption_Click();
-  void ExistingReplaceOption_Click();
   void ReplaceAcceptButton_Click();
   void ReplaceDoneButton_Click();
 
@@ -44,13 +40,16 @@ class ReplaceLabelTool {
   const LabelPlacement& placement_;
   StringPainter painter_;
 
-  Box ReplaceBox_;
-  Label ReplaceHeading_;
-  Option NewReplaceOption_;
-  TextBox ReplaceText_;
-  Option ExistingReplaceOption_;
-  Button ReplaceAcceptButton_;
-  Button ReplaceDoneButton_;
+  Box ReplaceBox_{&session_.ProgrammingPanel, "ReplaceBox"};
+  Label ReplaceHeading_{&ReplaceBox_, "ReplaceHeading", "Label"};
+  NameChoice name_{
+      ReplaceBox_,
+      {"NewReplaceOption", "ReplaceText", "ExistingReplaceOption", "ReplaceAcceptButton"},
+      "Replace",
+      session_.ReplaceCombo,
+      {.RowPicked = [this] { return session_.CurrentPanelState == PanelState::kReplacePicked; },
+       .options_accept = true}};
+  Button ReplaceDoneButton_{&ReplaceBox_, "ReplaceDoneButton", "Done"};
 };
 
 }  // namespace quilla

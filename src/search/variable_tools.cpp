@@ -1,7 +1,6 @@
 #include "search/variable_tools.h"
 
 #include "program/opcode_cell.h"
-#include "symbols/string_inputs.h"
 
 namespace quilla {
 
@@ -26,14 +25,12 @@ VariableTools::VariableTools(Session& session, StateMachine& states, VariableBox
 
 void VariableTools::OpenFind() {
   box_.Reset();
-  if (box_.XXCombo.IsEmpty()) {
+  if (session_.XXCombo.IsEmpty()) {
     TellNoVariables();
     return;
   }
   box_.XXBox.Show();
-  SetLive(box_.XXText, false);
-  SetLive(box_.XXCombo, true);
-  box_.XXCombo.SelectFirst();
+  box_.name.OpenKnown();
   box_.XXFindButton.Show();
   box_.XXFindButton.MakeDefault();
   box_.XXDoneButton.Show();
@@ -41,14 +38,13 @@ void VariableTools::OpenFind() {
 
 void VariableTools::OpenReplace() {
   session_.SetTip("Searching for variables . . .");
-  if (box_.XXCombo.IsEmpty() || !PaintCandidates()) {
+  if (session_.XXCombo.IsEmpty() || !PaintCandidates()) {
     TellNoVariables();
     return;
   }
   box_.Reset();
-  box_.OfferNewOrKnown(box_.XXReplaceButton);
   box_.XXDoneButton.Show();
-  box_.XXText.SetFocus();
+  box_.OfferNewOrKnown(box_.XXReplaceButton);
 }
 
 bool VariableTools::PaintCandidates() {
@@ -72,7 +68,7 @@ void VariableTools::TellNoVariables() {
 }
 
 void VariableTools::XXFindButton_Click() {
-  const std::string name = box_.XXCombo.text();
+  const std::string& name = box_.name.KnownName();
   session_.SetTip("Searching for '" + name + "' . . .");
   int uses = 0;
   for (int row = 0; row < session_.Table1.Rows(); ++row) {
@@ -85,19 +81,18 @@ void VariableTools::XXFindButton_Click() {
 }
 
 void VariableTools::XXReplaceButton_Click() {
-  if (box_.ExistingXXOption.checked()) {
-    ReplaceSelected(box_.XXCombo.text(), session_.XXEqtList[box_.XXCombo.index()]);
+  if (box_.name.IsKnown()) {
+    ReplaceSelected(box_.name.KnownName(), session_.XXEqtList[box_.name.KnownIndex()]);
   } else {
-    const std::string name = box_.XXText.text();
-    if (box_.XXCombo.Find(name) >= 0) {
+    const std::string& name = box_.name.NewName();
+    if (session_.XXCombo.Find(name) >= 0) {
       session_.ShowCritical(
           "String already present as Label or Variable. Please enter another label.");
-      box_.XXText.set_text({});
-      box_.XXText.SetFocus();
+      box_.name.AskAgain();
       return;
     }
     session_.XXEqtList.Add(kUnknownByte);
-    box_.XXCombo.Add(name);
+    session_.XXCombo.Add(name);
     ReplaceSelected(name, kUnknownByte);
   }
   session_.FileChanged = true;

@@ -4,10 +4,10 @@
 
 #include <string>
 
-#include "platform/text_box.h"
 #include "program/entry_line.h"
 #include "program/session.h"
 #include "program/state_machine.h"
+#include "symbols/name_choice.h"
 #include "symbols/string_lists.h"
 
 namespace quilla {
@@ -18,9 +18,6 @@ class LabelEntry {
 
  private:
   void LabelStatus(bool status);
-  void NewLabelOption_Click();
-  void ExistingLabelOption_Click();
-  void LabelText_Change();
   void LabelAcceptButton_Click();
   /// Writes the operand to the row under the cursor: its name, and its equivalent.
   void WriteOperand(const std::string& label, const std::string& equivalent);
@@ -30,12 +27,12 @@ class LabelEntry {
   EntryLine& line_;
   StringLists& strings_;
 
-  Box LabelBox_;
-  Label LabelHeading_;
-  Option NewLabelOption_;
-  TextBox LabelText_;
-  Option ExistingLabelOption_;
-  Button LabelAcceptButton_;
+  Box LabelBox_{&session_.ProgrammingPanel, "LabelBox"};
+  Label LabelHeading_{&LabelBox_, "LabelHeading", "Label"};
+  NameChoice name_{LabelBox_,
+                   {"NewLabelOption", "LabelText", "ExistingLabelOption", "LabelAcceptButton"},
+                   "&Accept",
+                   session_.LabelCombo};
 };
 
 }  // namespace quilla

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "platform/text_box.h"
 #include "program/session.h"
 #include "program/state_machine.h"
+#include "symbols/name_choice.h"
 #include "symbols/string_lists.h"
 
 namespace quilla {
@@ -16,14 +16,10 @@ class LabelPlacement {
   LabelPlacement(Session& session, StateMachine& states, StringLists& strings);
 
   /// What stands in the place tool's box for a new name.
-  const std::string& NewName() const { return PlaceText_.text(); }
+  const std::string& NewName() const { return name_.NewName(); }
 
  private:
   void PlaceStatus(bool status);
-  void RowPicked();
-  void NewPlaceOption_Click();
-  void ExistingPlaceOption_Click();
-  void PlaceText_Change();
   void PlaceAcceptButton_Click();
   void PlaceDoneButton_Click();
   void DeleteLabels_Click();
@@ -42,13 +38,16 @@ class LabelPlacement {
   StateMachine& states_;
   StringLists& strings_;
 
-  Box PlaceBox_;
-  Label PlaceHeading_;
-  Option NewPlaceOption_;
-  TextBox PlaceText_;
-  Option ExistingPlaceOption_;
-  Button PlaceAcceptButton_;
-  Button PlaceDoneButton_;
+  Box PlaceBox_{&session_.ProgrammingPanel, "PlaceBox"};
+  Label PlaceHeading_{&PlaceBox_, "PlaceHeading", "Label"};
+  NameChoice name_{
+      PlaceBox_,
+      {"NewPlaceOption", "PlaceText", "ExistingPlaceOption", "PlaceAcceptButton"},
+      "Place",
+      session_.PlaceCombo,
+      {.RowPicked = [this] { return session_.CurrentPanelState == PanelState::kPlaceOnRow; },
+       .options_keep_inputs = true}};
+  Button PlaceDoneButton_{&PlaceBox_, "PlaceDoneButton", "Done"};
 };
 
 }  // namespace quilla

@@ -5,10 +5,10 @@
 
 #include <string>
 
-#include "platform/text_box.h"
 #include "program/entry_line.h"
 #include "program/session.h"
 #include "program/state_machine.h"
+#include "symbols/name_choice.h"
 #include "symbols/string_lists.h"
 
 namespace quilla {
@@ -22,16 +22,17 @@ struct VariableBox {
   /// Offers a new name, and the known ones if there are any; nothing is accepted yet.
   void OfferNewOrKnown(Button& accept);
 
-  Box XXBox;
-  Label XXHeading;
-  Option NewXXOption;
-  TextBox XXText;
-  Option ExistingXXOption;
-  ComboBox& XXCombo;
-  Button XXAcceptButton;
-  Button XXFindButton;
-  Button XXReplaceButton;
-  Button XXDoneButton;
+  Session& session;
+  Box XXBox{&session.ProgrammingPanel, "XXBox"};
+  Label XXHeading{&XXBox, "XXHeading", "Variable"};
+  NameChoice name{XXBox,
+                  {"NewXXOption", "XXText", "ExistingXXOption", "XXAcceptButton"},
+                  "Accept",
+                  session.XXCombo};
+  Button& XXAcceptButton = name.accept_button();
+  Button XXFindButton{&XXBox, "XXFindButton", "&Find"};
+  Button XXReplaceButton{&XXBox, "XXReplaceButton", "&Replace"};
+  Button XXDoneButton{&XXBox, "XXDoneButton", "Done"};
 };
 
 class VariableEntry {
@@ -41,11 +42,7 @@ class VariableEntry {
 
  private:
   void XXStatus(bool status);
-  void NewXXOption_Click();
-  void ExistingXXOption_Click();
-  void XXText_Change();
   void XXAcceptButton_Click();
-  void SetAcceptable(bool acceptable);
   /// Writes the operand to the row under the cursor: its name, and its equivalent.
   void WriteOperand(const std::string& variable, const std::string& equivalent);
 

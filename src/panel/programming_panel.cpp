@@ -20,6 +20,7 @@ constexpr ColumnLook kColumns[] = {{"Label", 1080, kCentred},
 
 constexpr const char* kSerialSettings = "2400,N,8,1";
 constexpr int kFirstPort = 1;
+constexpr std::size_t kAllThatHasArrived = 0;
 
 }  // namespace
 
@@ -33,8 +34,10 @@ ProgrammingPanel::ProgrammingPanel(Outside& outside) : session_(outside) {
 }
 
 void ProgrammingPanel::Form_Load() {
-  session_.MSComm1.CommPort = kFirstPort;
+  session_.CommPortNumber = kFirstPort;
+  session_.MSComm1.CommPort = session_.CommPortNumber;
   session_.MSComm1.Settings = kSerialSettings;
+  session_.MSComm1.InputLen = kAllThatHasArrived;
   form().set_caption(std::string(kTitle) + kVersion);
   for (int column = 0; column < kProgramColumns; ++column) {
     session_.Table1.SetColWidth(column, kColumns[column].width);

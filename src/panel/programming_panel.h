@@ -17,6 +17,9 @@
 #include "entry/table_clicks.h"
 #include "entry/write_mode.h"
 #include "formats/project_file.h"
+#include "link/download.h"
+#include "link/port_menu.h"
+#include "link/upload.h"
 #include "platform/form.h"
 #include "program/entry_line.h"
 #include "program/quit.h"
@@ -85,6 +88,9 @@ class ProgrammingPanel {
   Assembler assembler_{session_, states_, addresses_, strings_};
   NewFileCommand new_file_{session_, states_, rows_, numbers_};
   ProjectFile project_{session_, states_, rows_, origins_, new_file_};
+  PortMenu ports_{session_};
+  Download download_{session_, states_, ports_};
+  Upload upload_{session_, states_, ports_};
   QuitCommand quit_{session_};
 };
 

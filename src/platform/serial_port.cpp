@@ -1,5 +1,7 @@
 #include "platform/serial_port.h"
 
+#include <utility>
+
 #include "platform/failure.h"
 
 namespace quilla {
@@ -11,6 +13,17 @@ void MSComm::SetPortOpen(bool open) {
   }
   if (port_.IsOpen()) throw Failure(ErrorNumber::kPortInUse);
   port_.Open(CommPort, Settings);
+  arrived_.clear();
+}
+
+std::string MSComm::Input() {
+  arrived_ += port_.Read();
+  std::string rest;
+  if (InputLen > 0 && arrived_.size() > InputLen) {
+    rest = arrived_.substr(InputLen);
+    arrived_.resize(InputLen);
+  }
+  return std::exchange(arrived_, std::move(rest));
 }
 
 }  // namespace quilla

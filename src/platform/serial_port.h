@@ -3,6 +3,7 @@
 #ifndef QUILLA_PLATFORM_SERIAL_PORT_H_
 #define QUILLA_PLATFORM_SERIAL_PORT_H_
 
+#include <cstddef>
 #include <string>
 
 namespace quilla {
@@ -32,6 +33,8 @@ class MSComm {
   /// Used by the next opening.
   int CommPort = 1;
   std::string Settings;
+  /// The most bytes that one read gives; 0 for no limit.
+  std::size_t InputLen = 0;
 
   bool PortOpen() const { return port_.IsOpen(); }
   /// Fails with `kPortInUse` when it is open already, and as SerialPort::Open does.
@@ -39,10 +42,12 @@ class MSComm {
   void SetDTREnable(bool on) { port_.SetDtr(on); }
   void SetRTSEnable(bool on) { port_.SetRts(on); }
   void Output(const std::string& bytes) { port_.Write(bytes); }
-  std::string Input() { return port_.Read(); }
+  /// Takes what has arrived, up to InputLen bytes of it. Fails as SerialPort::Read does.
+  std::string Input();
 
  private:
   SerialPort& port_;
+  std::string arrived_;  // what the last reads have left
 };
 
 }  // namespace quilla

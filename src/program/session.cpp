@@ -39,6 +39,11 @@ void Session::SetWriteMode(bool insert) {
   WriteModeLabel.set_color(insert ? kInsertTextColor : kOverwriteTextColor);
 }
 
+void Session::OpenPort() {
+  MSComm1.SetPortOpen(true);
+  PortOpen = true;
+}
+
 void Session::ClosePort() {
   if (!PortOpen) return;
   MSComm1.SetPortOpen(false);

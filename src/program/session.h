@@ -129,7 +129,8 @@ struct Session {
 
   bool AddressError = false;
   MSComm MSComm1;
-  bool PortOpen = false;
+  int CommPortNumber = 1;  // the port that the user has chosen, 1 to 4
+  bool PortOpen = false;   // a transfer has opened the port
   // Numbers for generated names, shared by paste and the disassembler.
   int NextLabelNumber = 1;
   int NextVariableNumber = 1;
@@ -157,6 +158,8 @@ struct Session {
     return menu.EntryMode.caption() == kOffersDataMode ? PanelState::kReady
                                                        : PanelState::kDataReady;
   }
+  /// Opens the serial port for a transfer. Fails as SerialPort::Open does.
+  void OpenPort();
   /// Closes the serial port if a transfer has it open.
   void ClosePort();
 };

@@ -38,8 +38,8 @@ text: XXCombo="x" XXText="Big"
 shown: XXBox
 hidden: InstructionBox XXDoneButton XXFindButton XXReplaceButton
 disabled: AssembleFile AssignAddress CommentsTool CopyEdit CutEdit DeleteEdit DeleteLabels
-    DeleteUnusedLabels EntryMode EqtOption FindEdit NewFileMenu OpenFile PlaceLabelTool QuitFile
-    ReplaceEdit SaveAsFile SaveFile XXAcceptButton XXCombo
+    DeleteUnusedLabels DownloadFile EntryMode EqtOption FindEdit NewFileMenu OpenFile PlaceLabelTool
+    QuitFile ReplaceEdit SaveAsFile SaveFile UploadFile XXAcceptButton XXCombo
 checked: NewXXOption
 focus: XXText
 default: XXAcceptButton
@@ -79,8 +79,8 @@ caption: TipsLabel="Program Mode."
 shown: InstructionBox
 hidden: PlaceBox
 enabled: AssembleFile AssignAddress CommentsTool CopyEdit CutEdit DeleteEdit DeleteLabels
-    DeleteUnusedLabels EntryMode EqtOption FindEdit NewFileMenu OpenFile PlaceLabelTool QuitFile
-    ReplaceEdit SaveAsFile SaveFile
+    DeleteUnusedLabels DownloadFile EntryMode EqtOption FindEdit NewFileMenu OpenFile PlaceLabelTool
+    QuitFile ReplaceEdit SaveAsFile SaveFile UploadFile
 # Rows that come in between move the others.
 > cell Table1 2 2 ; click WriteModeLabel ; row NOP ; changes
 session: CurrentRow=3 LastLine=11 SelectionTop=3 SelectionBottom=3 SelectionAnchor=2

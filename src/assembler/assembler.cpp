@@ -9,19 +9,14 @@
 namespace quilla {
 namespace {
 
-constexpr int kMostBytes = 3;            // of an instruction; one column of TempTable for each
-constexpr int kOriginMark = kMostBytes;  // the column of TempTable that marks an origin
+constexpr int kOriginMark = 3;  // the column of TempTable that marks an origin
 constexpr int kSaveChannel = 6;
 
 }  // namespace
 
 Assembler::Assembler(Session& session, StateMachine& states, AddressAssignment& addresses,
                      StringLists& strings)
-    : session_(session),
-      states_(states),
-      addresses_(addresses),
-      strings_(strings),
-      TempTable_(&session.ProgrammingPanel, "TempTable", kMostBytes + 1) {
+    : session_(session), states_(states), addresses_(addresses), strings_(strings) {
   TempTable_.Hide();
   session_.menu.AssembleFile.Click = [this] { AssembleFile_Click(); };
 }

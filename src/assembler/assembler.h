@@ -23,6 +23,8 @@ class Assembler {
   void Assemble();
 
  private:
+  static constexpr int kMostBytes = 3;  // of an instruction; one column of TempTable for each
+
   bool HasData() const;
   bool StringsHaveEquivalents() const;
   void SplitOpcodes();
@@ -35,7 +37,7 @@ class Assembler {
   StringLists& strings_;
   /// The byte texts of each row in columns 0 to 2; of an origin row its address in column 0 and
   /// "Origin" in column 3.
-  Grid TempTable_;
+  Grid TempTable_{&session_.ProgrammingPanel, "TempTable", kMostBytes + 1};
 };
 
 }  // namespace quilla

@@ -3,10 +3,7 @@
 namespace quilla {
 
 CancelAction::CancelAction(Session& session, StateMachine& states, Rows& rows)
-    : session_(session),
-      states_(states),
-      rows_(rows),
-      TableCancelButton_(&session.ProgrammingPanel, "TableCancelButton", "Command1") {
+    : session_(session), states_(states), rows_(rows) {
   TableCancelButton_.Click = [this] { TableCancelButton_Click(); };
   session_.ProgrammingPanel.set_cancel_button(&TableCancelButton_);
 }

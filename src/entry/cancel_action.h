@@ -19,7 +19,7 @@ class CancelAction {
   Session& session_;
   StateMachine& states_;
   Rows& rows_;
-  Button TableCancelButton_;
+  Button TableCancelButton_{&session_.ProgrammingPanel, "TableCancelButton", "Command1"};
 };
 
 }  // namespace quilla

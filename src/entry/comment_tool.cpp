@@ -11,16 +11,7 @@ bool IsBarred(char last) { return last == '&' || last == '"'; }
 }  // namespace
 
 CommentTool::CommentTool(Session& session, StateMachine& states)
-    : session_(session),
-      states_(states),
-      CommentsBox_(&session.ProgrammingPanel, "CommentsBox"),
-      CommentsHeading_(&CommentsBox_, "CommentsHeading", "Comments"),
-      CommentsTxt_(&CommentsBox_, "CommentsTxt"),
-      CommentNextButton_(&CommentsBox_, "CommentNextButton", "&Next"),
-      DefaultCommentButton_(&CommentsBox_, "DefaultCommentButton", "&Default Comment"),
-      CommentContinueButton_(&CommentsBox_, "CommentContinueButton", "&Continue in next line"),
-      CommentDoneButton_(&CommentsBox_, "CommentDoneButton", "Done"),
-      CommentCancelButton_(&CommentsBox_, "CommentCancelButton", "Ignore") {
+    : session_(session), states_(states) {
   CommentsTxt_.TextChange = [this] { CommentsTxt_Change(); };
   CommentNextButton_.Click = [this] { CommentNextButton_Click(); };
   DefaultCommentButton_.Click = [this] { DefaultCommentButton_Click(); };

@@ -30,14 +30,15 @@ class CommentTool {
   Session& session_;
   StateMachine& states_;
 
-  Box CommentsBox_;
-  Label CommentsHeading_;
-  TextBox CommentsTxt_;
-  Button CommentNextButton_;
-  Button DefaultCommentButton_;
-  Button CommentContinueButton_;
-  Button CommentDoneButton_;
-  Button CommentCancelButton_;
+  Box CommentsBox_{&session_.ProgrammingPanel, "CommentsBox"};
+  Label CommentsHeading_{&CommentsBox_, "CommentsHeading", "Comments"};
+  TextBox CommentsTxt_{&CommentsBox_, "CommentsTxt"};
+  Button CommentNextButton_{&CommentsBox_, "CommentNextButton", "&Next"};
+  Button DefaultCommentButton_{&CommentsBox_, "DefaultCommentButton", "&Default Comment"};
+  // Does nothing.
+  Button CommentContinueButton_{&CommentsBox_, "CommentContinueButton", "&Continue in next line"};
+  Button CommentDoneButton_{&CommentsBox_, "CommentDoneButton", "Done"};
+  Button CommentCancelButton_{&CommentsBox_, "CommentCancelButton", "Ignore"};
 };
 
 }  // namespace quilla

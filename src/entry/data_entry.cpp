@@ -4,21 +4,8 @@
 #include "symbols/address_assignment.h"
 
 namespace quilla {
-namespace {
-
-constexpr const char* kNoByte = "00";
-
-}  // namespace
-
 DataEntry::DataEntry(Session& session, StateMachine& states, EntryLine& line)
-    : session_(session),
-      states_(states),
-      line_(line),
-      DataBox_(&session.ProgrammingPanel, "DataBox"),
-      DataCaption_(&DataBox_, "DataCaption", "Data:"),
-      DataLabel_(&DataBox_, "DataLabel", kNoByte),
-      DataNum_(&DataBox_, "DataNum", [this](int digit) { DataNum_Click(digit); }),
-      DataAcceptButton_(&DataBox_, "DataAcceptButton", "Accept") {
+    : session_(session), states_(states), line_(line) {
   DataAcceptButton_.Click = [this] { DataAcceptButton_Click(); };
   DataAcceptButton_.KeyPress = DigitKeyPress([this](int digit) { DataNum_Click(digit); });
   DataBox_.Hide();

@@ -18,6 +18,8 @@ class DataEntry {
   Button& AcceptButton() { return DataAcceptButton_; }
 
  private:
+  static constexpr const char* kNoByte = "00";
+
   void DataStatus(bool status);
   void DataNum_Click(int index);
   void DataAcceptButton_Click();
@@ -26,11 +28,11 @@ class DataEntry {
   StateMachine& states_;
   EntryLine& line_;
 
-  Box DataBox_;
-  Label DataCaption_;
-  Label DataLabel_;
-  DigitKeys DataNum_;
-  Button DataAcceptButton_;
+  Box DataBox_{&session_.ProgrammingPanel, "DataBox"};
+  Label DataCaption_{&DataBox_, "DataCaption", "Data:"};
+  Label DataLabel_{&DataBox_, "DataLabel", kNoByte};
+  DigitKeys DataNum_{&DataBox_, "DataNum", [this](int digit) { DataNum_Click(digit); }};
+  Button DataAcceptButton_{&DataBox_, "DataAcceptButton", "Accept"};
 };
 
 }  // namespace quilla

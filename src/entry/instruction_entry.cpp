@@ -1,28 +1,14 @@
 #include "entry/instruction_entry.h"
 
+#include <string>
+
 #include "entry/operands.h"
 #include "isa/instruction_set.h"
 
 namespace quilla {
 InstructionEntry::InstructionEntry(Session& session, StateMachine& states, EntryLine& line,
                                    RegisterEntry& registers)
-    : session_(session),
-      states_(states),
-      line_(line),
-      registers_(registers),
-      InstructionBox_(&session.ProgrammingPanel, "InstructionBox"),
-      InstructionCaption_(&InstructionBox_, "InstructionCaption", "Instruction:"),
-      InstructionLabel_{Label(&InstructionBox_, "InstructionLabel", {}, 0),
-                        Label(&InstructionBox_, "InstructionLabel", {}, 1)} {
-  for (int index = 0; index < kInstructionKeyCount; ++index) {
-    const InstructionKey& key = Inst(index);
-    INST_.push_back(
-        std::make_unique<Button>(&InstructionBox_, "INST", std::string(key.caption), index));
-    INST_.back()->Click = [this, index] { INST_Click(index); };
-    INST_.back()->MouseMove = [this, index] { INST_MouseMove(index); };
-    InstructionHints_.emplace_back(key.hint.substr(0, key.caption.size()),
-                                   std::string(" ").append(key.hint.substr(key.caption.size())));
-  }
+    : session_(session), states_(states), line_(line), registers_(registers) {
   session_.ProgrammingPanel.MouseMove = [this] { Form_MouseMove(); };
   states_.SetStatus(BoxId::kInstruction, [this](bool status) { InstructionStatus(status); });
 }
@@ -58,10 +44,10 @@ void InstructionEntry::SaveCells() {
 }
 
 void InstructionEntry::INST_MouseMove(int index) {
-  const auto& [name, operands] = InstructionHints_[static_cast<std::size_t>(index)];
-  if (InstructionLabel_[0].caption() == INST_[static_cast<std::size_t>(index)]->caption()) return;
-  InstructionLabel_[0].set_caption(name);
-  InstructionLabel_[1].set_caption(operands);
+  const InstructionKey& key = Inst(index);
+  if (InstructionLabel_[0].caption() == key.caption) return;
+  InstructionLabel_[0].set_caption(std::string(key.caption));
+  InstructionLabel_[1].set_caption(std::string(" ").append(key.hint.substr(key.caption.size())));
 }
 
 void InstructionEntry::ClearInstructionHint() {

@@ -3,13 +3,11 @@
 #define QUILLA_ENTRY_INSTRUCTION_ENTRY_H_
 
 #include <array>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "entry/register_entry.h"
+#include "isa/instruction_set.h"
 #include "program/entry_line.h"
+#include "program/key_array.h"
 #include "program/session.h"
 #include "program/state_machine.h"
 
@@ -37,12 +35,16 @@ class InstructionEntry {
   EntryLine& line_;
   RegisterEntry& registers_;
 
-  Box InstructionBox_;
-  Label InstructionCaption_;
-  std::array<Label, 2> InstructionLabel_;
-  std::vector<std::unique_ptr<Button>> INST_;
-  /// The operation's name and the rest of its hint, for each key.
-  std::vector<std::pair<std::string, std::string>> InstructionHints_;
+  Box InstructionBox_{&session_.ProgrammingPanel, "InstructionBox"};
+  Label InstructionCaption_{&InstructionBox_, "InstructionCaption", "Instruction:"};
+  std::array<Label, 2> InstructionLabel_{Label(&InstructionBox_, "InstructionLabel", {}, 0),
+                                         Label(&InstructionBox_, "InstructionLabel", {}, 1)};
+  KeyArray INST_{&InstructionBox_,
+                 "INST",
+                 kInstructionKeyCount,
+                 [](int index) { return Inst(index).caption; },
+                 [this](int index) { INST_Click(index); },
+                 [this](int index) { INST_MouseMove(index); }};
 };
 
 }  // namespace quilla

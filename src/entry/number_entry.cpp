@@ -7,8 +7,6 @@ namespace quilla {
 namespace {
 
 constexpr const char* kFirstOrigin = "8000";
-constexpr const char* kNoAddress = "0000";
-constexpr int kFocusDelayMs = 10;
 constexpr int kRestartCount = 8;
 constexpr int kRestartStep = 8;  // from one RST opcode to the next
 
@@ -16,21 +14,7 @@ constexpr int kRestartStep = 8;  // from one RST opcode to the next
 
 NumberEntry::NumberEntry(Session& session, StateMachine& states, EntryLine& line, Origins& origins,
                          DataEntry& data)
-    : session_(session),
-      states_(states),
-      line_(line),
-      origins_(origins),
-      data_(data),
-      NumberBox_(&session.ProgrammingPanel, "NumberBox"),
-      DataTypeLabel_(&NumberBox_, "DataTypeLabel", "Number:"),
-      NumberLabel_(&NumberBox_, "NumberLabel", kNoAddress),
-      NUM_(&NumberBox_, "NUM", [this](int digit) { NUM_Click(digit); }),
-      NumberAcceptButton_(&NumberBox_, "NumberAcceptButton", "Accept"),
-      NumberFocusButton_(&NumberBox_, "NumberFocusButton", "Command1"),
-      StartupTimer_(session.outside.clock, "StartupTimer", kFocusDelayMs) {
-  for (int digit = 0; digit < kDigitKeyCount; ++digit) {
-    NUM_[digit].MouseMove = [this, digit] { NUM_MouseMove(digit); };
-  }
+    : session_(session), states_(states), line_(line), origins_(origins), data_(data) {
   NumberAcceptButton_.Click = [this] { NumberAcceptButton_Click(); };
   NumberAcceptButton_.KeyPress = DigitKeyPress([this](int digit) { NUM_Click(digit); });
   NumberFocusButton_.KeyPress = DigitKeyPress([this](int digit) {

@@ -23,6 +23,9 @@ class NumberEntry {
   void EnterFirstOrigin();
 
  private:
+  static constexpr const char* kNoAddress = "0000";
+  static constexpr int kFocusDelayMs = 10;
+
   void NumberStatus(bool status);
   void StartupTimer_Timer();
   void NUM_Click(int index);
@@ -34,13 +37,15 @@ class NumberEntry {
   Origins& origins_;
   DataEntry& data_;
 
-  Box NumberBox_;
-  Label DataTypeLabel_;
-  Label NumberLabel_;
-  DigitKeys NUM_;
-  Button NumberAcceptButton_;
-  Button NumberFocusButton_;  // out of sight: takes the keys while there is nothing to accept
-  Timer StartupTimer_;
+  Box NumberBox_{&session_.ProgrammingPanel, "NumberBox"};
+  Label DataTypeLabel_{&NumberBox_, "DataTypeLabel", "Number:"};
+  Label NumberLabel_{&NumberBox_, "NumberLabel", kNoAddress};
+  DigitKeys NUM_{&NumberBox_, "NUM", [this](int digit) { NUM_Click(digit); },
+                 [this](int digit) { NUM_MouseMove(digit); }};
+  Button NumberAcceptButton_{&NumberBox_, "NumberAcceptButton", "Accept"};
+  // Out of sight: takes the keys while there is nothing to accept.
+  Button NumberFocusButton_{&NumberBox_, "NumberFocusButton", "Command1"};
+  Timer StartupTimer_{session_.outside.clock, "StartupTimer", kFocusDelayMs};
 };
 
 }  // namespace quilla

@@ -16,20 +16,7 @@ constexpr std::string_view kRegisterLetters = "BCDEHLMASP";
 }  // namespace
 
 RegisterEntry::RegisterEntry(Session& session, StateMachine& states, EntryLine& line)
-    : session_(session),
-      states_(states),
-      line_(line),
-      RegisterBox_(&session.ProgrammingPanel, "RegisterBox"),
-      RegisterCaption_(&RegisterBox_, "RegisterCaption", "Register:"),
-      RegisterLabel_(&RegisterBox_, "RegisterLabel") {
-  for (int index = 0; index < kRegisterKeyCount; ++index) {
-    REG_.push_back(
-        std::make_unique<Button>(&RegisterBox_, "REG", std::string(RegCaption(index)), index));
-    REG_.back()->Click = [this, index] { REG_Click(index); };
-    REG_.back()->MouseMove = [this, index] {
-      RegisterLabel_.set_caption(std::string(RegCaption(index)));
-    };
-  }
+    : session_(session), states_(states), line_(line) {
   RegisterBox_.KeyPress = [this](char key) { RegisterBox_KeyPress(key); };
   RegisterBox_.Hide();
   states_.SetStatus(BoxId::kRegister, [this](bool status) { RegisterStatus(status); });
@@ -40,10 +27,10 @@ void RegisterEntry::RegisterStatus(bool status) {
     RegisterBox_.Hide();
     return;
   }
-  for (const auto& key : REG_) key->set_enabled(false);
+  for (int index = 0; index < kRegisterKeyCount; ++index) REG_[index].set_enabled(false);
   RegisterBox_.Show();
   for (int index = 0; index < kRegisterKeyCount; ++index) {
-    REG_[static_cast<std::size_t>(index)]->set_enabled(IsOffered(index));
+    REG_[index].set_enabled(IsOffered(index));
   }
   RegisterBox_.SetFocus();
 }
@@ -75,10 +62,10 @@ void RegisterEntry::REG_Click(int index) {
 
 void RegisterEntry::RegisterBox_KeyPress(char key) {
   const auto letter = static_cast<char>(std::toupper(static_cast<unsigned char>(key)));
-  const std::size_t index = kRegisterLetters.find(letter);
-  if (index != std::string_view::npos && REG_[index]->enabled()) {
-    REG_Click(static_cast<int>(index));
-  }
+  const std::size_t found = kRegisterLetters.find(letter);
+  if (found == std::string_view::npos) return;
+  const auto index = static_cast<int>(found);
+  if (REG_[index].enabled()) REG_Click(index);
 }
 
 }  // namespace quilla

@@ -2,10 +2,11 @@
 #ifndef QUILLA_ENTRY_REGISTER_ENTRY_H_
 #define QUILLA_ENTRY_REGISTER_ENTRY_H_
 
-#include <memory>
-#include <vector>
+#include <string>
 
+#include "isa/instruction_set.h"
 #include "program/entry_line.h"
+#include "program/key_array.h"
 #include "program/session.h"
 #include "program/state_machine.h"
 
@@ -28,10 +29,15 @@ class RegisterEntry {
   StateMachine& states_;
   EntryLine& line_;
 
-  Box RegisterBox_;
-  Label RegisterCaption_;
-  Label RegisterLabel_;
-  std::vector<std::unique_ptr<Button>> REG_;
+  Box RegisterBox_{&session_.ProgrammingPanel, "RegisterBox"};
+  Label RegisterCaption_{&RegisterBox_, "RegisterCaption", "Register:"};
+  Label RegisterLabel_{&RegisterBox_, "RegisterLabel"};
+  KeyArray REG_{&RegisterBox_,
+                "REG",
+                kRegisterKeyCount,
+                RegCaption,
+                [this](int index) { REG_Click(index); },
+                [this](int index) { RegisterLabel_.set_caption(std::string(RegCaption(index))); }};
 };
 
 }  // namespace quilla

@@ -38,12 +38,7 @@ std::string WithExtension(const std::string& path) {
 
 ProjectFile::ProjectFile(Session& session, StateMachine& states, Rows& rows, Origins& origins,
                          NewFileCommand& new_file)
-    : session_(session),
-      states_(states),
-      rows_(rows),
-      origins_(origins),
-      new_file_(new_file),
-      FileDialog_(session.outside.file_dialogs) {
+    : session_(session), states_(states), rows_(rows), origins_(origins), new_file_(new_file) {
   session_.menu.SaveFile.Click = [this] { SaveFile_Click(); };
   session_.menu.SaveAsFile.Click = [this] { SaveAsFile_Click(); };
   session_.menu.OpenFile.Click = [this] { OpenFile_Click(); };

@@ -41,7 +41,7 @@ class ProjectFile {
   Rows& rows_;
   Origins& origins_;
   NewFileCommand& new_file_;
-  CommonDialog FileDialog_;
+  CommonDialog FileDialog_{session_.outside.file_dialogs};
 };
 
 }  // namespace quilla

@@ -3,24 +3,21 @@
 #define QUILLA_PROGRAM_DIGIT_KEYS_H_
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/button.h"
+#include "isa/instruction_set.h"
+#include "program/key_array.h"
 
 namespace quilla {
 
-class DigitKeys {
+class DigitKeys : public KeyArray {
  public:
-  /// Makes the key array `name` in `container`; `press` hears the value of each key, 0 to 15.
-  DigitKeys(Control* container, const std::string& name, const std::function<void(int)>& press);
-
-  Button& operator[](int digit) { return *keys_[static_cast<std::size_t>(digit)]; }
-
- private:
-  std::vector<std::unique_ptr<Button>> keys_;
+  /// Makes the key array `name` in `container`; `press` and `hover` hear the value of a key, 0 to
+  /// 15.
+  DigitKeys(Control* container, const std::string& name, const std::function<void(int)>& press,
+            const std::function<void(int)>& hover = nullptr)
+      : KeyArray(container, name, kDigitKeyCount, DigitCaption, press, hover) {}
 };
 
 /// The display after a digit key: the oldest digit falls out on the left.

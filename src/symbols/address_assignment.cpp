@@ -8,7 +8,6 @@
 namespace quilla {
 namespace {
 
-constexpr int kDelayMs = 10;
 constexpr std::int64_t kHighestAddress = 0xFFFF;
 
 /// The 32-bit value of an address text: eight digits from 80000000 up are negative.
@@ -19,10 +18,7 @@ std::int32_t AddressValue(const std::string& text) {
 }  // namespace
 
 AddressAssignment::AddressAssignment(Session& session, StateMachine& states, Rows& rows)
-    : session_(session),
-      states_(states),
-      rows_(rows),
-      AddressTimer_(session.outside.clock, "AddressTimer", kDelayMs) {
+    : session_(session), states_(states), rows_(rows) {
   session_.menu.AssignAddress.Click = [this] { AssignAddress_Click(); };
   AddressTimer_.Fire = [this] { Assign_Address(true); };
 }

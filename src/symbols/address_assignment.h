@@ -26,6 +26,8 @@ class AddressAssignment {
   void Assign_Address(bool AddressMessageEnable);
 
  private:
+  static constexpr int kDelayMs = 10;
+
   /// The position of each label in LabelCombo, for the time of one assignment.
   using LabelIndex = std::unordered_map<std::string_view, int>;
 
@@ -40,7 +42,7 @@ class AddressAssignment {
   Session& session_;
   StateMachine& states_;
   Rows& rows_;
-  Timer AddressTimer_;
+  Timer AddressTimer_{session_.outside.clock, "AddressTimer", kDelayMs};
 };
 
 /// Told where a command makes addresses stale that were assigned before. Addresses are assigned

@@ -11,16 +11,8 @@ constexpr const char* kCaption = "Equivalents Tool Window";
 constexpr const char* kHeadings[] = {"Label", "Current", "New"};
 constexpr int kHeadingRows = 1;
 constexpr int kCentred = 3;
-constexpr int kFocusDelayMs = 10;
 
-enum EquivalentColumn : int { kName, kCurrent, kNew, kColumns };
-
-constexpr EquivalentsPage::Names kLabelNames = {"LabelFrame", "LabelTable", "EqtBox",
-                                                "LabelLabel", "EqtLabel",   "EqtAcceptButton",
-                                                "DelayTimer", "0000"};
-constexpr EquivalentsPage::Names kVariableNames = {
-    "VariableFrame", "VariableTable",  "XXBox",        "VariableLabel",
-    "XXLabel",       "XXAcceptButton", "XXDelayTimer", "00"};
+enum EquivalentColumn : int { kName, kCurrent, kNew };
 
 using NewEquivalents = std::unordered_map<std::string_view, std::string_view>;
 
@@ -42,73 +34,60 @@ void RewriteOperands(Session& session, const NewEquivalents& equivalents, const 
 
 EquivalentsPage::EquivalentsPage(Session& session, Form& form, const Names& names,
                                  std::function<void()> box_changed, std::function<void(int)> digit)
-    : Frame(&form, names.frame),
-      Table(&Frame, names.table, kColumns),
-      zero_(names.zero),
+    : session_(session),
+      names_(names),
       box_changed_(std::move(box_changed)),
-      EditBox(&Frame, names.box),
-      NameLabel(&EditBox, names.name_label),
-      Display(&EditBox, names.display, names.zero),
-      AcceptButton(&EditBox, names.accept, "Accept"),
-      DelayTimer(session.outside.clock, names.timer, kFocusDelayMs) {
-  Table.SetFixedRows(kHeadingRows);
-  Table.Click = [this] { Table_Click(); };
-  AcceptButton.Click = [this] { AcceptButton_Click(); };
-  AcceptButton.KeyPress = DigitKeyPress(std::move(digit));
-  DelayTimer.Fire = [this] { AcceptButton.SetFocus(); };
+      Frame_(&form, names.frame) {
+  Table_.SetFixedRows(kHeadingRows);
+  Table_.Click = [this] { Table_Click(); };
+  AcceptButton_.Click = [this] { AcceptButton_Click(); };
+  AcceptButton_.KeyPress = DigitKeyPress(std::move(digit));
+  DelayTimer_.Fire = [this] { AcceptButton_.SetFocus(); };
 }
 
 void EquivalentsPage::Load(const TextList& names, const TextList& equivalents) {
-  Table.SetRows(0);
-  Table.SetRows(kHeadingRows + names.Count());
+  Table_.SetRows(0);
+  Table_.SetRows(kHeadingRows + names.Count());
   for (int column = 0; column < kColumns; ++column) {
-    Table.SetTextMatrix(0, column, kHeadings[column]);
-    Table.SetColAlignment(column, kCentred);
+    Table_.SetTextMatrix(0, column, kHeadings[column]);
+    Table_.SetColAlignment(column, kCentred);
   }
   for (int i = 0; i < names.Count(); ++i) {
-    Table.SetTextMatrix(i + kHeadingRows, kName, names[i]);
-    Table.SetTextMatrix(i + kHeadingRows, kCurrent, equivalents[i]);
-    Table.SetTextMatrix(i + kHeadingRows, kNew, equivalents[i]);
+    Table_.SetTextMatrix(i + kHeadingRows, kName, names[i]);
+    Table_.SetTextMatrix(i + kHeadingRows, kCurrent, equivalents[i]);
+    Table_.SetTextMatrix(i + kHeadingRows, kNew, equivalents[i]);
   }
-  EditBox.Hide();
-  NameLabel.set_caption({});
-  Display.set_caption(zero_);
-  AcceptButton.set_enabled(true);
+  EditBox_.Hide();
+  NameLabel_.set_caption({});
+  Display_.set_caption(names_.zero);
+  AcceptButton_.set_enabled(true);
 }
 
 void EquivalentsPage::AddDigit(int digit) {
-  Display.set_caption(ShiftIn(Display.caption(), digit));
-  AcceptButton.SetFocus();
+  Display_.set_caption(ShiftIn(Display_.caption(), digit));
+  AcceptButton_.SetFocus();
 }
 
 void EquivalentsPage::Table_Click() {
-  const int row = Table.MouseRow();
-  if (row < kHeadingRows || Table.MouseCol() != kName) return;
-  NameLabel.set_caption(Table.TextMatrix(row, kName));
-  EditBox.Show();
+  const int row = Table_.MouseRow();
+  if (row < kHeadingRows || Table_.MouseCol() != kName) return;
+  NameLabel_.set_caption(Table_.TextMatrix(row, kName));
+  EditBox_.Show();
   box_changed_();
-  AcceptButton.set_enabled(true);
-  AcceptButton.MakeDefault();
-  Display.set_caption(zero_);
-  DelayTimer.Enable();  // the box is only about to appear
+  AcceptButton_.set_enabled(true);
+  AcceptButton_.MakeDefault();
+  Display_.set_caption(names_.zero);
+  DelayTimer_.Enable();  // the box is only about to appear
 }
 
 void EquivalentsPage::AcceptButton_Click() {
-  Table.SetTextMatrix(Table.Row(), kNew, Display.caption());
-  EditBox.Hide();
+  Table_.SetTextMatrix(Table_.Row(), kNew, Display_.caption());
+  EditBox_.Hide();
   box_changed_();
-  AcceptButton.set_enabled(false);
+  AcceptButton_.set_enabled(false);
 }
 
-RenumberDialog::RenumberDialog(Session& session)
-    : session_(session),
-      labels_(
-          session, form_, kLabelNames, [this] { ShowDigitKeys(); },
-          [this](int digit) { NUM_Click(digit); }),
-      variables_(
-          session, form_, kVariableNames, [this] { ShowDigitKeys(); },
-          [this](int digit) { NUM_Click(digit); }),
-      NUM_(&DigitBox_, "NUM", [this](int digit) { NUM_Click(digit); }) {
+RenumberDialog::RenumberDialog(Session& session) : session_(session) {
   form_.set_caption(kCaption);
   form_.Unload = [this] {
     labels_.Unload();
@@ -140,8 +119,8 @@ void RenumberDialog::Form_Load() {
 }
 
 void RenumberDialog::ShowPage(bool labels) {
-  labels_.Frame.set_visible(labels);
-  variables_.Frame.set_visible(!labels);
+  labels_.set_visible(labels);
+  variables_.set_visible(!labels);
   (labels ? LabelsOption_ : VariablesOption_).set_checked(true);
   ShowDigitKeys();
 }
@@ -162,8 +141,8 @@ void RenumberDialog::DoneButton_Click() {
 
 void RenumberDialog::TakeLabels() {
   NewEquivalents changed;
-  for (int row = kHeadingRows; row < labels_.Table.Rows(); ++row) {
-    const std::string& equivalent = labels_.Table.TextMatrix(row, kNew);
+  for (int row = kHeadingRows; row < labels_.table().Rows(); ++row) {
+    const std::string& equivalent = labels_.table().TextMatrix(row, kNew);
     const int label = row - kHeadingRows;
     if (session_.LabelEqtList[label] == equivalent) continue;
     session_.LabelEqtList.Set(label, equivalent);
@@ -174,11 +153,11 @@ void RenumberDialog::TakeLabels() {
 
 void RenumberDialog::TakeVariables() {
   NewEquivalents changed;
-  for (int row = kHeadingRows; row < variables_.Table.Rows(); ++row) {
-    const std::string& equivalent = variables_.Table.TextMatrix(row, kNew);
-    if (variables_.Table.TextMatrix(row, kCurrent) == equivalent) continue;
+  for (int row = kHeadingRows; row < variables_.table().Rows(); ++row) {
+    const std::string& equivalent = variables_.table().TextMatrix(row, kNew);
+    if (variables_.table().TextMatrix(row, kCurrent) == equivalent) continue;
     session_.XXEqtList.Set(row - kHeadingRows, equivalent);
-    changed[variables_.Table.TextMatrix(row, kName)] = equivalent;
+    changed[variables_.table().TextMatrix(row, kName)] = equivalent;
   }
   RewriteOperands(session_, changed, WithVariable);
 }

@@ -3,6 +3,7 @@
 #ifndef QUILLA_SYMBOLS_RENUMBER_DIALOG_H_
 #define QUILLA_SYMBOLS_RENUMBER_DIALOG_H_
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -34,25 +35,32 @@ class EquivalentsPage {
 
   /// Fills the table from a list of strings and their equivalents.
   void Load(const TextList& names, const TextList& equivalents);
-  void Unload() { DelayTimer.Disable(); }
+  void Unload() { DelayTimer_.Disable(); }
   void AddDigit(int digit);
   /// Whether the user has the page's edit box before them.
-  bool IsEditing() const { return EditBox.IsVisible(); }
+  bool IsEditing() const { return EditBox_.IsVisible(); }
 
-  Box Frame;
-  Grid Table;
+  Grid& table() { return Table_; }
+  void set_visible(bool visible) { Frame_.set_visible(visible); }
 
  private:
+  static constexpr int kColumns = 3;
+  static constexpr int kFocusDelayMs = 10;
+
   void Table_Click();
   void AcceptButton_Click();
 
-  const char* zero_;
+  Session& session_;
+  const Names names_;
   std::function<void()> box_changed_;
-  Box EditBox;
-  Label NameLabel;
-  Label Display;
-  Button AcceptButton;
-  Timer DelayTimer;
+
+  Box Frame_;
+  Grid Table_{&Frame_, names_.table, kColumns};
+  Box EditBox_{&Frame_, names_.box};
+  Label NameLabel_{&EditBox_, names_.name_label};
+  Label Display_{&EditBox_, names_.display, names_.zero};
+  Button AcceptButton_{&EditBox_, names_.accept, "Accept"};
+  Timer DelayTimer_{session_.outside.clock, names_.timer, kFocusDelayMs};
 };
 
 class RenumberDialog {
@@ -75,10 +83,32 @@ class RenumberDialog {
   Form form_{"RenumberDialog"};
   Option LabelsOption_{&form_, "LabelsOption", "&Labels"};
   Option VariablesOption_{&form_, "VariablesOption", "&Variables"};
-  EquivalentsPage labels_;
-  EquivalentsPage variables_;
+  EquivalentsPage labels_{session_,
+                          form_,
+                          {.frame = "LabelFrame",
+                           .table = "LabelTable",
+                           .box = "EqtBox",
+                           .name_label = "LabelLabel",
+                           .display = "EqtLabel",
+                           .accept = "EqtAcceptButton",
+                           .timer = "DelayTimer",
+                           .zero = "0000"},
+                          [this] { ShowDigitKeys(); },
+                          [this](int digit) { NUM_Click(digit); }};
+  EquivalentsPage variables_{session_,
+                             form_,
+                             {.frame = "VariableFrame",
+                              .table = "VariableTable",
+                              .box = "XXBox",
+                              .name_label = "VariableLabel",
+                              .display = "XXLabel",
+                              .accept = "XXAcceptButton",
+                              .timer = "XXDelayTimer",
+                              .zero = "00"},
+                             [this] { ShowDigitKeys(); },
+                             [this](int digit) { NUM_Click(digit); }};
   Box DigitBox_{&form_, "DigitBox"};
-  DigitKeys NUM_;
+  DigitKeys NUM_{&DigitBox_, "NUM", [this](int digit) { NUM_Click(digit); }};
   Button DoneButton_{&form_, "DoneButton", "Done"};
 };
 

@@ -216,7 +216,7 @@ void Changes::PrintVariables(std::ostream& transcript) {
   WrappedLine line(transcript, "session:");
   for (const auto& [name, value] : VariablesOf(quilla_.panel()->session())) {
     if (variables_[name] == value) continue;
-    line.Add(name + "=" + value);
+    line.Add(std::string(name).append("=").append(value));
     variables_[name] = value;
   }
 }

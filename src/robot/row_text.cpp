@@ -46,16 +46,15 @@ std::vector<Operand> OperandsOf(InstructionClass instruction) {
 
 /// The keys that may be pressed for an operand; none for a name, which is typed.
 std::vector<int> KeysFor(Operand operand) {
-  using namespace reg;
   switch (operand) {
     case Operand::kRegister:
-      return {kB, kC, kD, kE, kH, kL, kM, kA};
+      return {reg::kB, reg::kC, reg::kD, reg::kE, reg::kH, reg::kL, reg::kM, reg::kA};
     case Operand::kPairOrSp:
-      return {kB, kD, kH, kSP};
+      return {reg::kB, reg::kD, reg::kH, reg::kSP};
     case Operand::kPairOrPsw:
-      return {kB, kD, kH, kPSW};
+      return {reg::kB, reg::kD, reg::kH, reg::kPSW};
     case Operand::kIndirectPair:
-      return {kB, kD};
+      return {reg::kB, reg::kD};
     default:
       return {};
   }

@@ -62,7 +62,8 @@ struct Run {
 
 std::string NameOf(CellColor back, CellColor fore) {
   if (back == fore && !back.is_painted()) return back == kNormalColor ? "own" : "cursor";
-  return ColorText(back) + (fore == kNormalColor ? "" : "/" + ColorText(fore));
+  const bool is_back_alone = back.is_painted() && fore == kNormalColor;
+  return is_back_alone ? ColorText(back) : ColorText(back) + "/" + ColorText(fore);
 }
 
 }  // namespace
@@ -123,7 +124,6 @@ TableRecord::Shift TableRecord::ShiftTo(const TableRecord& now) const {
   // that is equal to the end: whichever leaves less to tell.
   const int fewer = std::min(Rows(), now.Rows());
   const std::size_t front = static_cast<std::size_t>(
-
       std::mismatch(cells_.begin(), cells_.end(), now.cells_.begin(), now.cells_.end()).first -
       cells_.begin());
   const std::size_t back = static_cast<std::size_t>(

@@ -62,6 +62,20 @@ TEST(TableRecordTest, RowsThatCameOrWentMoveTheOthers) {
   }
 }
 
+TEST(TableRecordTest, ColorsOfNeighboursAreOnePiece) {
+  Grid grid(nullptr, "T", 3);
+  grid.SetRows(4);
+  const TableRecord before(grid);
+  for (const int row : {0, 1}) {
+    for (const int column : {0, 1, 2}) grid.PaintBack(row, column, CellColor(0xE0));
+  }
+  grid.Paint(1, 2, kSelectionColor, kNormalColor);
+  grid.Paint(2, 0, kNormalColor, CellColor(0));
+  grid.Paint(3, 0, kNormalColor, CellColor(0));
+  EXPECT_EQ(TextsOf(before, TableRecord(grid)),
+            "colors 0,0..2=0000E0 1,0..1=0000E0 1,2=cursor/- 2..3,0=-/000000\n");
+}
+
 TEST(TableRecordTest, EqualAndCountingEntriesAreOneRun) {
   using List = std::vector<std::string>;
   const struct {

@@ -1,7 +1,6 @@
 #include "formats/project_file.h"
 
 #include <cstddef>
-#include <exception>
 #include <limits>
 #include <string>
 
@@ -160,7 +159,7 @@ void ProjectFile::Open_File() {
     rows_.NextLine(1);
     states_.ControlTransfer(PanelState::kReady);
     session_.SetTip("File Opened.");
-  } catch (const std::exception&) {
+  } catch (const Failure&) {
     session_.ProgrammingPanel.set_pointer(FormPointer::kNormal);
     session_.ShowCritical("Unable to open file.");
     new_file_.New_File();

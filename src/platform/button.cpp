@@ -2,9 +2,11 @@
 
 #include <utility>
 
-#include "platform/failure.h"
+#include "platform/dispatch.h"
 
 namespace quilla {
+
+void Box::PressKey(char character) { Dispatch(KeyPress, character); }
 
 Button::Button(Control* container, std::string name, std::string caption, int index)
     : Control(container, std::move(name), index) {
@@ -14,6 +16,14 @@ Button::Button(Control* container, std::string name, std::string caption, int in
 void Button::MakeDefault() {
   if (form() != nullptr) form()->set_default_button(this);
 }
+
+void Button::Press() { Dispatch(MouseDown); }
+
+void Button::Release() { Dispatch(MouseUp); }
+
+void Button::Choose() { Dispatch(Click); }
+
+void Button::PressKey(char character) { Dispatch(KeyPress, character); }
 
 Option::Option(Control* container, std::string name, std::string caption, int index)
     : Control(container, std::move(name), index) {
@@ -42,10 +52,14 @@ Label::Label(Control* container, std::string name, std::string caption, int inde
   set_caption(std::move(caption));
 }
 
+void Label::Choose() { Dispatch(Click); }
+
 MenuEntry::MenuEntry(Control* container, std::string name, std::string caption,
                      std::string shortcut, int index)
     : Control(container, std::move(name), index), shortcut_(std::move(shortcut)) {
   set_caption(std::move(caption));
 }
+
+void MenuEntry::Choose() { Dispatch(Click); }
 
 }  // namespace quilla

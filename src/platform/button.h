@@ -14,6 +14,10 @@ namespace quilla {
 class Box : public Control {
  public:
   using Control::Control;
+
+  void PressKey(char character) override;
+  bool TakesKeys() const override { return KeyPress != nullptr; }
+
   /// A key with a character was pressed while the box had the focus.
   std::function<void(char)> KeyPress;
 };
@@ -24,6 +28,12 @@ class Button : public Control {
 
   /// Makes this the button that Enter presses, wherever the focus is.
   void MakeDefault();
+
+  void Press() override;
+  void Release() override;
+  void Choose() override;
+  void PressKey(char character) override;
+  bool TakesKeys() const override { return KeyPress != nullptr; }
 
   std::function<void()> Click;
   std::function<void()> MouseDown;
@@ -40,8 +50,8 @@ class Option : public Control {
   bool checked() const { return checked_; }
   /// Sets or clears the option; no handler runs.
   void set_checked(bool checked);
-  /// The user chose the option, set already or not: it is set and its handler runs.
-  void Choose();
+  /// Sets the option, set already or not, and runs its handler.
+  void Choose() override;
 
   std::function<void()> Click;
 
@@ -57,6 +67,8 @@ class Label : public Control {
   /// The colour of the text, blue-green-red; black where none was set.
   unsigned color() const { return color_; }
   void set_color(unsigned color) { Change(color_, color, Property::kColor); }
+
+  void Choose() override;
 
   std::function<void()> Click;
 
@@ -81,6 +93,8 @@ class MenuEntry : public Control {
   void set_checkable(bool checkable) { checkable_ = checkable; }
   bool checked() const { return checked_; }
   void set_checked(bool checked) { Change(checked_, checked, Property::kChecked); }
+
+  void Choose() override;
 
   std::function<void()> Click;
 

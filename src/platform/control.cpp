@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/dispatch.h"
 #include "platform/form.h"
 
 namespace quilla {
@@ -47,6 +48,8 @@ bool Control::IsEnabled() const {
 bool Control::IsVisible() const {
   return visible_ && (container_ == nullptr || container_->IsVisible());
 }
+
+void Control::Hover() const { Dispatch(MouseMove); }
 
 void Control::SetFocus() {
   if (Form* home = form(); home != nullptr) home->SetFocused(*this);

@@ -70,6 +70,23 @@ class Control {
   /// Asks for the keyboard focus. A control that cannot take it leaves it where it is.
   void SetFocus();
 
+  // What the user does to a control. It runs the handlers that the control has for it, each to its
+  // end or to a failure that ends it where it stands, and passes over a control without one. None
+  // looks whether the user could do it now: that is for whoever acts for the user.
+
+  /// Presses and lets go the mouse on the control; neither is a click.
+  virtual void Press() {}
+  virtual void Release() {}
+  /// Clicks the control, or chooses it by a key.
+  virtual void Choose() {}
+  /// Presses the key of an ASCII character while the control has the focus; a text box is typed
+  /// into instead.
+  virtual void PressKey(char /*character*/) {}
+  /// Whether such a key runs a handler.
+  virtual bool TakesKeys() const { return false; }
+  /// Moves the pointer over the control.
+  void Hover() const;
+
   /// The pointer moved over the control.
   std::function<void()> MouseMove;
 

@@ -4,8 +4,6 @@
 #define QUILLA_PLATFORM_FAILURE_H_
 
 #include <exception>
-#include <functional>
-#include <type_traits>
 
 namespace quilla {
 
@@ -36,18 +34,6 @@ class Failure : public std::exception {
  private:
   ErrorNumber number_;
 };
-
-/// Runs an event handler to its end. A failure that the handler does not catch ends it where it
-/// stands: what was written stays, and the program goes on.
-template <typename... Arguments>
-void Dispatch(const std::function<void(Arguments...)>& handler,
-              std::type_identity_t<Arguments>... arguments) {
-  if (!handler) return;
-  try {
-    handler(arguments...);
-  } catch (const std::exception&) {
-  }
-}
 
 }  // namespace quilla
 

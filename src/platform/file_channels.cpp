@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <limits>
+#include <new>
 #include <utility>
 
 #include "platform/failure.h"
@@ -165,6 +166,8 @@ std::string FileChannels::ReadText(int channel) {
   try {
     return file.TakeItem();
   } catch (const std::ios_base::failure&) {  // a folder, or a disk that does not read
+    throw Failure(ErrorNumber::kReadFailed);
+  } catch (const std::bad_alloc&) {  // a text that the memory does not hold
     throw Failure(ErrorNumber::kReadFailed);
   }
 }

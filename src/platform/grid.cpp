@@ -1,8 +1,10 @@
 #include "platform/grid.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
+#include "platform/dispatch.h"
 #include "platform/failure.h"
 
 namespace quilla {
@@ -33,8 +35,12 @@ void Grid::InsertRows(int at, int count) {
   if (at < 0 || at > Rows() || count < 0) throw Failure(ErrorNumber::kOutsideTable);
   if (count > kMaxRows - Rows()) throw Failure(ErrorNumber::kGridMemory);
   if (count == 0) return;
-  cells_.insert(StartOf(at), static_cast<std::size_t>(count) * static_cast<std::size_t>(columns_),
-                Cell{});
+  try {
+    cells_.insert(StartOf(at), static_cast<std::size_t>(count) * static_cast<std::size_t>(columns_),
+                  Cell{});
+  } catch (const std::bad_alloc&) {
+    throw Failure(ErrorNumber::kGridMemory);
+  }
   rows_ += count;
   if (grid_observer != nullptr) grid_observer->RowsInserted(at, count);
 }
@@ -117,11 +123,13 @@ void Grid::PressCell(int row, int column) {
   CellAt(row, column);
   mouse_row_ = row;
   mouse_column_ = column;
-  if (row >= fixed_rows_) {
-    row_sel_ = row;
-    MoveTo(row, column);
-  }
-  Dispatch(MouseDown);
+  CarryOut([&] {
+    if (row >= fixed_rows_) {
+      row_sel_ = row;
+      MoveTo(row, column);
+    }
+    if (MouseDown) MouseDown();
+  });
 }
 
 void Grid::ReleaseAt(int row) {

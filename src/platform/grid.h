@@ -60,7 +60,7 @@ class Grid : public Control {
   int Rows() const { return rows_; }
   int Cols() const { return columns_; }
   /// Adds empty rows at the end, or removes rows there. Fails with `kGridMemory` beyond kMaxRows
-  /// and with `kOutsideTable` below 0.
+  /// or out of memory, the table being as before, and with `kOutsideTable` below 0.
   void SetRows(int rows);
   /// Inserts `count` empty rows before row `at`. Fails as SetRows does.
   void InsertRows(int at, int count);
@@ -100,7 +100,8 @@ class Grid : public Control {
   /// The cell of the last press.
   int MouseRow() const { return mouse_row_; }
   int MouseCol() const { return mouse_column_; }
-  /// The user presses on a cell, lets go over a row, and the click follows.
+  /// The user presses on a cell, lets go over a row, and the click follows. A failure of a handler
+  /// ends that one of the three where it stands.
   void PressCell(int row, int column);
   void ReleaseAt(int row);
   void ClickCell();

@@ -1,6 +1,6 @@
 #include "platform/outside.h"
 
-#include "platform/failure.h"
+#include "platform/dispatch.h"
 
 namespace quilla {
 
@@ -26,8 +26,8 @@ void EventLoop::Unload(Form& form) {
 }
 
 void EventLoop::CloseByFrame(Form& form) {
-  bool may_close = true;
-  if (form.QueryUnload) Dispatch(std::function<void()>([&] { may_close = form.QueryUnload(); }));
+  bool may_close = true;  // also where the question fails
+  CarryOut([&] { may_close = !form.QueryUnload || form.QueryUnload(); });
   if (may_close) Unload(form);
 }
 

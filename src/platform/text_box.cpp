@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/characters.h"
+#include "platform/dispatch.h"
 
 namespace quilla {
 
@@ -14,6 +15,8 @@ void TextBox::set_text(std::string text) {
   if (Change(text_, std::move(text), Property::kText) && TextChange) TextChange();
 }
 
-void TextBox::Type(std::string_view character) { set_text(text_ + std::string(character)); }
+void TextBox::Edit(std::string text) {
+  CarryOut([&] { set_text(std::move(text)); });
+}
 
 }  // namespace quilla

@@ -19,8 +19,10 @@ class TextBox : public Control {
   int max_length() const { return max_length_; }
   /// Replaces the text, cut off at the limit. Another text than before runs the change handler.
   void set_text(std::string text);
-  /// The user typed one character (in UTF-8) at the end.
-  void Type(std::string_view character);
+  /// The user made this text of it; or typed one character (in UTF-8) at the end. A failure of the
+  /// change handler ends it where it stands.
+  void Edit(std::string text);
+  void Type(std::string_view character) { Edit(text_ + std::string(character)); }
 
   /// Whether the box looks like a live input. It says nothing about `enabled`.
   bool active() const { return active_; }

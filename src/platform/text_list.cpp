@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/dispatch.h"
 #include "platform/failure.h"
 
 namespace quilla {

@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <utility>
 
-#include "platform/failure.h"
 #include "window/mirrors.h"
 #include "window/qt_text.h"
 
@@ -24,17 +23,6 @@ bool IsUsable(const QWidget* widget) {
 
 bool IsUsable(const Control* control) {
   return control != nullptr && control->IsVisible() && control->IsEnabled();
-}
-
-/// The handler for characters that a control has; null for a control without one.
-const std::function<void(char)>* KeyPressOf(const Control* control) {
-  if (const auto* const button = dynamic_cast<const Button*>(control)) {
-    return button->KeyPress ? &button->KeyPress : nullptr;
-  }
-  if (const auto* const box = dynamic_cast<const Box*>(control)) {
-    return box->KeyPress ? &box->KeyPress : nullptr;
-  }
-  return nullptr;
 }
 
 }  // namespace
@@ -214,9 +202,9 @@ bool FormMirror::HandleKey(const QKeyEvent& key) {
   }
 }
 
-bool FormMirror::PressButton(const Button* button) {
+bool FormMirror::PressButton(Button* button) {
   if (!IsUsable(button)) return false;
-  gate_.Enter([button] { Dispatch(button->Click); });
+  gate_.Enter([button] { button->Choose(); });
   return true;
 }
 
@@ -226,12 +214,12 @@ bool FormMirror::PressFocusedButton() {
   return button != nullptr;
 }
 
-const Control* FormMirror::KeyTaker() const {
-  const Control* control = ControlAt(window_.focusWidget());
+Control* FormMirror::KeyTaker() const {
+  Control* control = ControlAt(window_.focusWidget());
   const bool takes_text = dynamic_cast<const TextBox*>(control) != nullptr ||
                           dynamic_cast<const ComboBox*>(control) != nullptr;
   if (takes_text) return nullptr;
-  while (control != nullptr && KeyPressOf(control) == nullptr) control = control->container();
+  while (control != nullptr && !control->TakesKeys()) control = control->container();
   return control == nullptr ? form_.focused() : control;
 }
 
@@ -240,22 +228,21 @@ const Control* FormMirror::KeyTaker() const {
 bool FormMirror::PassCharacter(const QKeyEvent& key) {
   const QString text = key.text();
   if (text.size() != 1 || text[0] < kFirstPrintable || text[0] > kLastPrintable) return false;
-  const Control* const taker = KeyTaker();
-  const auto* const handler = KeyPressOf(taker);
-  if (handler == nullptr || !IsUsable(taker)) return false;
-  gate_.Enter([&] { Dispatch(*handler, static_cast<char>(text[0].unicode())); });
+  Control* const taker = KeyTaker();
+  if (!IsUsable(taker) || !taker->TakesKeys()) return false;
+  gate_.Enter([&] { taker->PressKey(static_cast<char>(text[0].unicode())); });
   return true;
 }
 
 bool FormMirror::HandlePointer(const QWidget& widget, const QMouseEvent& mouse) {
   if (mouse.buttons() != Qt::NoButton) return false;
-  const Control* const control = ControlAt(&widget);
+  Control* const control = ControlAt(&widget);
   if (dynamic_cast<const Grid*>(control) != nullptr) return false;
   if (control == nullptr || !control->MouseMove || !control->IsEnabled()) {
-    if (form_.MouseMove) gate_.Enter([this] { Dispatch(form_.MouseMove); });
+    if (form_.MouseMove) gate_.Enter([this] { form_.Hover(); });
     return false;
   }
-  gate_.Enter([control] { Dispatch(control->MouseMove); });
+  gate_.Enter([control] { control->Hover(); });
   return true;
 }
 

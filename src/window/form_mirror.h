@@ -68,10 +68,10 @@ class FormMirror final : public QObject, private ControlObserver {
   bool HandleKey(const QKeyEvent& key);
   /// The button on view whose access key this is; null if there is none.
   QAbstractButton* ButtonOf(const QKeyEvent& access_key) const;
-  bool PressButton(const Button* button);
+  bool PressButton(Button* button);
   bool PressFocusedButton();
   bool PassCharacter(const QKeyEvent& key);
-  const Control* KeyTaker() const;
+  Control* KeyTaker() const;
   bool HandlePointer(const QWidget& widget, const QMouseEvent& mouse);
   void MarkDefaultButton();
   void ShowPointer();

@@ -7,6 +7,8 @@
 #include <exception>
 #include <utility>
 
+#include "platform/failure.h"
+
 namespace quilla {
 
 class Gate : public QObject {
@@ -14,14 +16,17 @@ class Gate : public QObject {
 
  public:
   /// Runs `action`, something that the user did or a timer that is due. A failure of the system
-  /// ends it where it stands; any other exception does too and is kept.
+  /// ends it where it stands; any other exception does too, is told on standard error and kept.
   template <typename Action>
   void Enter(Action&& action) {
     if (shut_) return;
     Q_EMIT Entered();
     try {
       std::forward<Action>(action)();
-    } catch (const std::exception&) {
+    } catch (const Failure&) {
+    } catch (const std::exception& fault) {
+      qCritical("A fault in the program: %s", fault.what());
+      escaped_ = std::current_exception();
     } catch (...) {
       escaped_ = std::current_exception();
     }

@@ -10,7 +10,6 @@
 #include <string_view>
 
 #include "isa/instruction_set.h"
-#include "platform/failure.h"
 #include "window/qt_text.h"
 #include "window/widgets.h"
 
@@ -178,7 +177,7 @@ bool InstructionPage::LookUp(const QString& letter) {
 void InstructionPage::MoveTo(std::size_t key) {
   keys_[key].widget->setFocus(Qt::TabFocusReason);
   const Button* const button = keys_[key].button;
-  mirror_.gate().Enter([button] { Dispatch(button->MouseMove); });
+  mirror_.gate().Enter([button] { button->Hover(); });
 }
 
 }  // namespace quilla

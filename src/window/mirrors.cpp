@@ -6,7 +6,6 @@
 #include <initializer_list>
 #include <utility>
 
-#include "platform/failure.h"
 #include "window/colors.h"
 #include "window/qt_text.h"
 
@@ -49,11 +48,11 @@ ButtonMirror::ButtonMirror(Gate& gate, Button& button, QAbstractButton& widget)
     : WidgetMirror(gate, button, widget), button_(button), widget_(widget) {
   Refresh(Property::kCaption);
   connect(&widget, &QAbstractButton::pressed, this,
-          [this] { gate_.Enter([this] { Dispatch(button_.MouseDown); }); });
+          [this] { gate_.Enter([this] { button_.Press(); }); });
   connect(&widget, &QAbstractButton::released, this,
-          [this] { gate_.Enter([this] { Dispatch(button_.MouseUp); }); });
+          [this] { gate_.Enter([this] { button_.Release(); }); });
   connect(&widget, &QAbstractButton::clicked, this,
-          [this] { gate_.Enter([this] { Dispatch(button_.Click); }); });
+          [this] { gate_.Enter([this] { button_.Choose(); }); });
   if (button_.MouseDown || button_.MouseUp) widget.installEventFilter(this);
 }
 
@@ -62,7 +61,7 @@ bool ButtonMirror::eventFilter(QObject* /*watched*/, QEvent* event) {
       event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
   if (!press && event->type() != QEvent::MouseButtonRelease) return false;
   if (static_cast<const QMouseEvent*>(event)->button() != Qt::RightButton) return false;
-  gate_.Enter([&] { Dispatch(press ? button_.MouseDown : button_.MouseUp); });
+  gate_.Enter([&] { press ? button_.Press() : button_.Release(); });
   return true;
 }
 
@@ -115,7 +114,7 @@ bool LabelMirror::eventFilter(QObject* /*watched*/, QEvent* event) {
       !label_.IsEnabled()) {
     return false;
   }
-  gate_.Enter([this] { Dispatch(label_.Click); });
+  gate_.Enter([this] { label_.Choose(); });
   return true;
 }
 
@@ -125,7 +124,7 @@ TextBoxMirror::TextBoxMirror(Gate& gate, TextBox& text_box, QLineEdit& widget)
   ShowText();
   Refresh(Property::kActive);
   connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) {
-    gate_.Enter([&] { text_box_.set_text(FromQt(text)); });
+    gate_.Enter([&] { text_box_.Edit(FromQt(text)); });
     ShowText();
   });
 }
@@ -192,7 +191,7 @@ MenuEntryMirror::MenuEntryMirror(Gate& gate, MenuEntry& entry, QAction& action)
     PropertyChanged(property);
   }
   connect(&action_, &QAction::triggered, this, [this, &gate] {
-    gate.Enter([this] { Dispatch(entry_.Click); });
+    gate.Enter([this] { entry_.Choose(); });
     PropertyChanged(Property::kChecked);
   });
 }

@@ -11,7 +11,6 @@
 #include <string>
 
 #include "panel/programming_panel.h"
-#include "platform/failure.h"
 #include "robot/scripted_outside.h"
 #include "scenario.h"
 
@@ -68,10 +67,10 @@ class SaveFailuresTest : public testing::Test {
 
   /// Chooses a menu entry, with a path for the file dialog; gives the message boxes that came,
   /// but for the one that each assembly shows.
-  std::string Ask(const MenuEntry& entry, const std::optional<std::string>& path) {
+  std::string Ask(MenuEntry& entry, const std::optional<std::string>& path) {
     outside_.file_dialogs.Queue(path);
     transcript_.str({});
-    Dispatch(entry.Click);
+    entry.Choose();
     std::istringstream lines(transcript_.str());
     std::string boxes;
     for (std::string line; std::getline(lines, line);) {

@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "panel/quilla.h"
-#include "platform/failure.h"
 #include "robot/scripted_outside.h"
 #include "scenario.h"
 
@@ -58,13 +57,13 @@ class Program {
 
   void SaveAs(const std::string& path) {
     outside_.file_dialogs.Queue(path);
-    Dispatch(session().menu.SaveAsFile.Click);
+    session().menu.SaveAsFile.Choose();
   }
-  void Save() { Dispatch(session().menu.SaveFile.Click); }
+  void Save() { session().menu.SaveFile.Choose(); }
   void Open(const std::string& path) {
     session().FileChanged = false;
     outside_.file_dialogs.Queue(path);
-    Dispatch(session().menu.OpenFile.Click);
+    session().menu.OpenFile.Choose();
   }
 
   /// The message boxes since the last call, a line each.

@@ -142,12 +142,14 @@ TEST_F(OutsideTest, WaitsAreAbandonedInnermostFirst) {
   ScriptedEventLoop& loop = outside_.event_loop;
   Form dialog("InnerDialog");
   Form outer("OuterDialog");
+  Button key(&outer, "Key", "Open");
+  key.Click = [&] { loop.ShowModal(dialog); };
   int lines = 0;
   loop.play_command = [&] {
-    if (++lines == 2) loop.ShowModal(dialog);
+    if (++lines == 2) key.Choose();
     return lines < 3;
   };
-  Dispatch(std::function<void()>([&] { EXPECT_THROW(loop.ShowModal(outer), ScriptOver); }));
+  EXPECT_THROW(loop.ShowModal(outer), ScriptOver);
   EXPECT_EQ(lines, 3);
   EXPECT_EQ(Written(),
             "open OuterDialog\nopen InnerDialog\nwaiting InnerDialog\nwaiting OuterDialog\n");

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/failure.h"
+#include "platform/button.h"
 
 namespace quilla {
 namespace {
@@ -18,9 +18,9 @@ class WatchWindowDialogTest : public testing::Test {
     return dynamic_cast<Button&>(*dialog_.form().Find(name, index));
   }
   std::string Caption(const std::string& name) { return dialog_.form().Find(name)->caption(); }
-  void Click(const std::string& name) { Dispatch(ButtonNamed(name).Click); }
+  void Click(const std::string& name) { ButtonNamed(name).Choose(); }
   void Accept(const std::string& address) {
-    for (const char key : address) Dispatch(ButtonNamed("AcceptButton").KeyPress, key);
+    for (const char key : address) ButtonNamed("AcceptButton").PressKey(key);
     Click("AcceptButton");
   }
 
@@ -70,11 +70,11 @@ TEST_F(WatchWindowDialogTest, KeysMoveTheAddressAlong) {
   for (const auto& [keys, address] : std::vector<Case>{
            {"2000", "2000"}, {"5", "0005"}, {"aF", "05AF"}, {"g /:@`\r\x80", "05AF"}}) {
     for (const char* key = keys; *key != '\0'; ++key) {
-      Dispatch(ButtonNamed("AcceptButton").KeyPress, *key);
+      ButtonNamed("AcceptButton").PressKey(*key);
     }
     EXPECT_EQ(Caption("AddrLbl"), address);
   }
-  for (int digit = 12; digit < 16; ++digit) Dispatch(ButtonNamed("NUM", digit).Click);
+  for (int digit = 12; digit < 16; ++digit) ButtonNamed("NUM", digit).Choose();
   EXPECT_EQ(Caption("AddrLbl"), "CDEF");
   EXPECT_EQ(dialog_.form().focused(), dialog_.form().Find("AcceptButton"));
 }
@@ -84,7 +84,7 @@ TEST_F(WatchWindowDialogTest, LoadsAfreshOnceItIsClosed) {
   Click("AcceptButton");
   Click("ExecuteButton");
   Accept("1234");
-  Dispatch(ButtonNamed("IButton", 1).MouseDown);
+  ButtonNamed("IButton", 1).Press();
   dynamic_cast<ComboBox&>(*dialog_.form().Find("ValueList")).Pick(60);
   Click("ForceButton");
   dialog_.tables().SetReg(kRowSP, "1234");
@@ -92,7 +92,7 @@ TEST_F(WatchWindowDialogTest, LoadsAfreshOnceItIsClosed) {
 
   dialog_.Load();
   EXPECT_EQ(dialog_.tables().PortText(0), "3C");
-  Dispatch(dialog_.form().Unload);
+  dialog_.form().Unload();
   dialog_.Load();
   const WatchTables& tables = dialog_.tables();
   EXPECT_EQ(tables.PortText(0), "00");
@@ -115,9 +115,9 @@ TEST_F(WatchWindowDialogTest, LinesToggleAndOneIsAPulse) {
     const bool pulse = index == 2;
     std::string levels;
     for (int click = 0; click < 2; ++click) {
-      Dispatch(line.MouseDown);
+      line.Press();
       levels += line.caption();
-      Dispatch(line.MouseUp);
+      line.Release();
       levels += line.caption();
     }
     EXPECT_EQ(levels, pulse ? "1010" : "1100") << index;

@@ -204,7 +204,7 @@ BENCHMARK(BM_PlaceLabel)->Apply(OverTableSizes);
 void BM_ChangeEquivalent(benchmark::State& state) {
   PanelFixture panel(RowsOf(state));
   Session& session = panel.session();
-  const Form& dialog = panel.dialog("RenumberDialog");
+  const Form& dialog = panel.dialog(kRenumberDialog);
   auto& table = Find<Grid>(dialog, "LabelTable");
   auto& accept = Find(dialog, "EqtAcceptButton");
   auto& done = Find(dialog, "DoneButton");

@@ -56,8 +56,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   const QString window = argc > 1 ? argv[1] : "";
-  quilla::FirstPaint first_paint(window == "splash"  ? "OpenForm"
-                                 : window == "panel" ? "ProgrammingPanel"
+  quilla::FirstPaint first_paint(window == "splash"  ? quilla::kOpenForm
+                                 : window == "panel" ? quilla::kProgrammingPanel
                                                      : "Empty");
   application.installEventFilter(&first_paint);
   return window == "empty" ? quilla::ShowEmpty() : quilla::ShowProgram();

@@ -54,7 +54,7 @@ class DataDialog {
   std::vector<MarkedByte> bytes_;
   ProgramLayout layout_;
 
-  Form form_{"DataDialog"};
+  Form form_{kDataDialog};
   Grid DataTable_{&form_, "DataTable", kColumns};
   std::array<Option, 3> DataType_{Option(&form_, "DataType", "&Data Byte.", 0),
                                   Option(&form_, "DataType", "&Mnemonic.", 1),

@@ -1,22 +1,21 @@
 #include "panel/programming_panel.h"
 
+#include "panel/version.h"
+
 namespace quilla {
 namespace {
 
-/// A column of the program table: its heading, its width in 1/1440 inch, its alignment code.
+/// A column of the program table: its width in 1/1440 inch, and how its texts stand.
 struct ColumnLook {
-  const char* heading;
   int width;
-  int alignment;
+  ColumnAlignment alignment;
 };
 
-constexpr int kCentred = 3;
-constexpr int kLeft = 1;
-constexpr ColumnLook kColumns[] = {{"Label", 1080, kCentred},
-                                   {"Addr.", 600, kCentred},
-                                   {"Mnemonic", 1680, kLeft},
-                                   {"Opcode", 1080, kLeft},
-                                   {"Comment", 7140, kLeft}};
+constexpr ColumnLook kColumns[] = {{1080, kAlignCentreTop},
+                                   {600, kAlignCentreTop},
+                                   {1680, kAlignLeft},
+                                   {1080, kAlignLeft},
+                                   {7140, kAlignLeft}};
 
 constexpr const char* kSerialSettings = "2400,N,8,1";
 constexpr int kFirstPort = 1;
@@ -25,10 +24,6 @@ constexpr std::size_t kAllThatHasArrived = 0;
 }  // namespace
 
 ProgrammingPanel::ProgrammingPanel(Outside& outside) : session_(outside) {
-  for (int column = 0; column < kProgramColumns; ++column) {
-    HeadLabel_.push_back(
-        std::make_unique<Label>(&form(), "HeadLabel", kColumns[column].heading, column));
-  }
   session_.menu.HideIdleEntries();
   Form_Load();
 }

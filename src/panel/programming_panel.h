@@ -2,7 +2,7 @@
 #ifndef QUILLA_PANEL_PROGRAMMING_PANEL_H_
 #define QUILLA_PANEL_PROGRAMMING_PANEL_H_
 
-#include <memory>
+#include <array>
 #include <vector>
 
 #include "assembler/assembler.h"
@@ -41,9 +41,6 @@
 
 namespace quilla {
 
-/// The version that the splash and the first title show.
-inline constexpr const char* kVersion = "6.0";
-
 class ProgrammingPanel {
  public:
   explicit ProgrammingPanel(Outside& outside);
@@ -57,7 +54,6 @@ class ProgrammingPanel {
   void Form_Load();
 
   Session session_;
-  std::vector<std::unique_ptr<Label>> HeadLabel_;
   Rows rows_{session_};
   StateMachine states_{session_};
   EntryLine line_{session_, rows_};
@@ -92,6 +88,12 @@ class ProgrammingPanel {
   Download download_{session_, states_, ports_};
   Upload upload_{session_, states_, ports_};
   QuitCommand quit_{session_};
+  std::array<Label, kProgramColumns> HeadLabel_{
+      Label(&form(), "HeadLabel", "Label", kLabelColumn),
+      Label(&form(), "HeadLabel", "Addr.", kAddressColumn),
+      Label(&form(), "HeadLabel", "Mnemonic", kMnemonicColumn),
+      Label(&form(), "HeadLabel", "Opcode", kOpcodeColumn),
+      Label(&form(), "HeadLabel", "Comment", kCommentColumn)};
 };
 
 }  // namespace quilla

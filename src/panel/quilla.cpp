@@ -1,17 +1,8 @@
 #include "panel/quilla.h"
 
-#include <string>
-
 namespace quilla {
-namespace {
 
-constexpr int kSplashMs = 20;
-
-}  // namespace
-
-Quilla::Quilla(Outside& outside)
-    : outside_(outside), OpenTimer_(outside.clock, "OpenTimer", kSplashMs) {
-  VersionLabel_.set_caption(std::string("Version ") + kVersion);
+Quilla::Quilla(Outside& outside) : outside_(outside) {
   OpenTimer_.Fire = [this] { OpenTimer_Timer(); };
 }
 

@@ -4,9 +4,11 @@
 #define QUILLA_PANEL_QUILLA_H_
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "panel/programming_panel.h"
+#include "panel/version.h"
 #include "platform/form.h"
 #include "platform/outside.h"
 #include "platform/timer.h"
@@ -26,14 +28,16 @@ class Quilla {
   std::vector<Form*> Forms();
 
  private:
+  static constexpr int kSplashMs = 20;
+
   void OpenTimer_Timer();
 
   Outside& outside_;
-  Form OpenForm_{"OpenForm"};
+  Form OpenForm_{kOpenForm};
   Label DescriptionLabel_{&OpenForm_, "DescriptionLabel",
                           "Editor Assembler Disassembler Simulator"};
-  Label VersionLabel_{&OpenForm_, "VersionLabel"};
-  Timer OpenTimer_;
+  Label VersionLabel_{&OpenForm_, "VersionLabel", std::string("Version ") + kVersion};
+  Timer OpenTimer_{outside_.clock, "OpenTimer", kSplashMs};
   std::unique_ptr<ProgrammingPanel> panel_;
 };
 

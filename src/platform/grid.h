@@ -48,6 +48,9 @@ enum class SelectionDisplay { kRows = 0, kCell = 1 };
 /// The shape of the mouse pointer over a grid.
 enum class GridPointer { kDefault = 0, kPick = 3 };
 
+/// The alignment codes that columns are given; a column without one stands centred.
+enum ColumnAlignment : int { kAlignLeft = 1, kAlignCentreTop = 3, kAlignCentre = 4 };
+
 class Grid : public Control {
  public:
   /// The most rows that a grid holds.
@@ -114,7 +117,7 @@ class Grid : public Control {
   void set_pointer(GridPointer pointer) { Change(pointer_, pointer, Property::kPointer); }
 
   /// Widths in 1/1440 inch, 0 for a column out of sight and negative where none was given; and
-  /// alignment codes: 1 left, 3 and 4 centre.
+  /// codes of ColumnAlignment.
   int ColWidth(int column) const { return widths_.at(static_cast<std::size_t>(column)); }
   int ColAlignment(int column) const { return alignments_.at(static_cast<std::size_t>(column)); }
   void SetColWidth(int column, int twips);

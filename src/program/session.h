@@ -15,37 +15,9 @@
 #include "platform/text_list.h"
 #include "program/panel_menu.h"
 #include "program/panel_state.h"
+#include "program/vocabulary.h"
 
 namespace quilla {
-
-/// The columns of `Table1`.
-enum Column : int { kLabelColumn, kAddressColumn, kMnemonicColumn, kOpcodeColumn, kCommentColumn };
-inline constexpr int kProgramColumns = 5;
-
-/// The fixed texts of rows and captions that the logic tests.
-inline constexpr const char* kOrigin = "Origin";
-inline constexpr const char* kDataMnemonic = "DFB";
-inline constexpr const char* kUnknownAddress = "XXXX";
-inline constexpr const char* kUnknownByte = "XX";
-inline constexpr const char* kInsertMode = "Insert";
-inline constexpr const char* kOverwriteMode = "Overwrite";
-inline constexpr const char* kOffersDataMode = "Data &Mode";
-inline constexpr const char* kOffersProgramMode = "Program &Mode";
-inline constexpr const char* kTitle = "Brelvanor Quilla - ";
-inline constexpr const char* kNewFileName = "Pgm1.baf";
-inline constexpr const char* kYesFlag = "1";
-inline constexpr const char* kNoFlag = "0";
-
-/// Colours as the grid takes them, blue-green-red.
-inline constexpr CellColor kOriginColor{0xE0E0E0};
-inline constexpr CellColor kPickedColor{0x00FF00};
-inline constexpr CellColor kCandidateColor{0x0000FF};
-inline constexpr CellColor kFoundColor{0xFF0000};
-inline constexpr CellColor kCommentColor{0xC0FFC0};
-inline constexpr CellColor kWhite{0xFFFFFF};
-inline constexpr CellColor kBlack{0x000000};
-inline constexpr unsigned kOverwriteTextColor = 255;
-inline constexpr unsigned kInsertTextColor = 32768;
 
 /// Where `SavedCells` keeps the operand string, behind the cells of columns 1 to 4.
 inline constexpr std::size_t kSavedOperand = 5;
@@ -69,7 +41,7 @@ struct Session {
   explicit Session(Outside& world);
 
   Outside& outside;
-  Form ProgrammingPanel{"ProgrammingPanel"};
+  Form ProgrammingPanel{kProgrammingPanel};
 
   // The program: rows of five cells, and the operand string of each row.
   Grid Table1{&ProgrammingPanel, "Table1", kProgramColumns};

@@ -1,17 +1,11 @@
 #include "robot/scripted_event_loop.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "platform/form.h"
+#include "program/vocabulary.h"
 
 namespace quilla::robot {
-namespace {
-
-// The only window that opens and closes without a word.
-constexpr std::string_view kPanel = "ProgrammingPanel";
-
-}  // namespace
 
 const Form* ScriptedEventLoop::modal() const {
   // A dialog that code has closed under an inner one waits on for its turn, but blocks no more.
@@ -21,13 +15,14 @@ const Form* ScriptedEventLoop::modal() const {
 }
 
 void ScriptedEventLoop::OpenWindow(Form& form) {
-  if (form.name() != kPanel) transcript_ << "open " << form.name() << '\n';
+  // The panel is the only window that opens and closes without a word.
+  if (form.name() != kProgrammingPanel) transcript_ << "open " << form.name() << '\n';
   Use(form);
   if (on_open) on_open(form);
 }
 
 void ScriptedEventLoop::CloseWindow(Form& form) {
-  if (form.name() != kPanel) transcript_ << "closed " << form.name() << '\n';
+  if (form.name() != kProgrammingPanel) transcript_ << "closed " << form.name() << '\n';
   if (active_ == &form) active_ = nullptr;
   if (on_close) on_close(form);
 }

@@ -17,15 +17,7 @@ bool OfferLabels(Session& session, StateMachine& states) {
 }
 
 FindLabelTool::FindLabelTool(Session& session, StateMachine& states, StringLists& strings)
-    : session_(session),
-      states_(states),
-      strings_(strings),
-      painter_(session),
-      FindBox_(&session.ProgrammingPanel, "FindBox"),
-      FindHeading_(&FindBox_, "FindHeading", "Find Label"),
-      FindCaption_(&FindBox_, "FindCaption", "Label:"),
-      FindButton_(&FindBox_, "FindButton", "&Find"),
-      FindDoneButton_(&FindBox_, "FindDoneButton", "Done") {
+    : session_(session), states_(states), strings_(strings) {
   session_.FindCombo.PlaceIn(&FindBox_);
   session_.FindCombo.Show();
   FindButton_.Click = [this] { FindButton_Click(); };

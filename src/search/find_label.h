@@ -25,13 +25,13 @@ class FindLabelTool {
   Session& session_;
   StateMachine& states_;
   StringLists& strings_;
-  StringPainter painter_;
+  StringPainter painter_{session_};
 
-  Box FindBox_;
-  Label FindHeading_;
-  Label FindCaption_;
-  Button FindButton_;
-  Button FindDoneButton_;
+  Box FindBox_{&session_.ProgrammingPanel, "FindBox"};
+  Label FindHeading_{&FindBox_, "FindHeading", "Find Label"};
+  Label FindCaption_{&FindBox_, "FindCaption", "Label:"};
+  Button FindButton_{&FindBox_, "FindButton", "&Find"};
+  Button FindDoneButton_{&FindBox_, "FindDoneButton", "Done"};
 };
 
 }  // namespace quilla

@@ -8,11 +8,7 @@ namespace quilla {
 
 ReplaceLabelTool::ReplaceLabelTool(Session& session, StateMachine& states, StringLists& strings,
                                    const LabelPlacement& placement)
-    : session_(session),
-      states_(states),
-      strings_(strings),
-      placement_(placement),
-      painter_(session) {
+    : session_(session), states_(states), strings_(strings), placement_(placement) {
   name_.accept_button().set_enabled(false);
   name_.accept_button().Click = [this] { ReplaceAcceptButton_Click(); };
   ReplaceDoneButton_.Click = [this] { ReplaceDoneButton_Click(); };

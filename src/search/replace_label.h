@@ -38,7 +38,7 @@ class ReplaceLabelTool {
   StateMachine& states_;
   StringLists& strings_;
   const LabelPlacement& placement_;
-  StringPainter painter_;
+  StringPainter painter_{session_};
 
   Box ReplaceBox_{&session_.ProgrammingPanel, "ReplaceBox"};
   Label ReplaceHeading_{&ReplaceBox_, "ReplaceHeading", "Label"};

@@ -5,7 +5,7 @@
 namespace quilla {
 
 VariableTools::VariableTools(Session& session, StateMachine& states, VariableBox& box)
-    : session_(session), states_(states), box_(box), painter_(session) {
+    : session_(session), states_(states), box_(box) {
   box_.XXFindButton.Click = [this] { XXFindButton_Click(); };
   box_.XXReplaceButton.Click = [this] { XXReplaceButton_Click(); };
   box_.XXDoneButton.Click = [this] { XXDoneButton_Click(); };

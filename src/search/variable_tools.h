@@ -32,7 +32,7 @@ class VariableTools {
   Session& session_;
   StateMachine& states_;
   VariableBox& box_;
-  StringPainter painter_;
+  StringPainter painter_{session_};
 };
 
 }  // namespace quilla

@@ -8,7 +8,7 @@
 #include "isa/instruction_set.h"
 #include "platform/failure.h"
 #include "program/opcode_cell.h"
-#include "program/session.h"
+#include "program/vocabulary.h"
 #include "simulator/instructions.h"
 #include "simulator/step.h"
 

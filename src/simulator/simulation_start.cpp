@@ -6,11 +6,6 @@
 #include "program/opcode_cell.h"
 
 namespace quilla {
-namespace {
-
-constexpr int kDeferral = 10;  // milliseconds
-
-}  // namespace
 
 void WriteProgram(const Grid& Table1, WatchTables& tables) {
   for (int row = 0; row < Table1.Rows(); ++row) {
@@ -24,17 +19,14 @@ void WriteProgram(const Grid& Table1, WatchTables& tables) {
 
 SimulationStart::SimulationStart(Session& session, WatchWindowDialog& dialog,
                                  std::function<void(bool)> assign_address)
-    : session_(session),
-      dialog_(dialog),
-      assign_address_(std::move(assign_address)),
-      SimulationTimer(session.outside.clock, "SimulationTimer", kDeferral) {
+    : session_(session), dialog_(dialog), assign_address_(std::move(assign_address)) {
   session_.menu.SimulationView.Click = [this] { SimulationView_Click(); };
-  SimulationTimer.Fire = [this] { SimulationTimer_Timer(); };
+  SimulationTimer_.Fire = [this] { SimulationTimer_Timer(); };
 }
 
 void SimulationStart::SimulationView_Click() {
   assign_address_(true);
-  SimulationTimer.Enable();
+  SimulationTimer_.Enable();
 }
 
 void SimulationStart::SimulationTimer_Timer() {

@@ -24,13 +24,15 @@ class SimulationStart {
                   std::function<void(bool)> assign_address);
 
  private:
+  static constexpr int kDeferralMs = 10;
+
   void SimulationView_Click();
   void SimulationTimer_Timer();
 
   Session& session_;
   WatchWindowDialog& dialog_;
   std::function<void(bool)> assign_address_;
-  Timer SimulationTimer;
+  Timer SimulationTimer_{session_.outside.clock, "SimulationTimer", kDeferralMs};
 };
 
 }  // namespace quilla

@@ -3,18 +3,14 @@
 #include <array>
 
 #include "platform/failure.h"
-#include "program/session.h"
+#include "program/vocabulary.h"
 
 namespace quilla {
 namespace {
 
-constexpr int kWatchColumns = 2;
-constexpr int kInstructionColumns = 4;
 constexpr int kInterruptRows = 8;
 constexpr int kInstructionRows = 2;
 constexpr int kHeadingRows = 1;
-constexpr int kLeft = 1;
-constexpr int kCentred = 3;
 
 constexpr const char* kAddressHeading = "Address";
 constexpr const char* kValueHeading = "Value";
@@ -56,8 +52,8 @@ constexpr std::array<const char*, 7> InterruptList = {"Interrupts", "TRAP", "RST
 constexpr std::array<const char*, kInstructionColumns> HeadingsList = {"Label", "Addr.",
                                                                        "Mnemonics", "Opcode"};
 constexpr std::array<int, kInstructionColumns> ColWidthList = {0, 600, 1680, 1080};
-constexpr std::array<int, kInstructionColumns> kInstructionAlignments = {kCentred, kCentred, kLeft,
-                                                                         kLeft};
+constexpr std::array<int, kInstructionColumns> kInstructionAlignments = {
+    kAlignCentreTop, kAlignCentreTop, kAlignLeft, kAlignLeft};
 
 // Fills a table of two columns: a heading, then a row for each of `cells` cells.
 void LoadCells(Grid& table, int cells, int address_digits) {
@@ -77,16 +73,11 @@ int PortRow(Number port) {
 
 }  // namespace
 
-WatchTables::WatchTables(Control* window)
-    : RegisterTable(window, "RegisterTable", kWatchColumns),
-      MemoryTable(window, "MemoryTable", kWatchColumns),
-      PortTable(window, "PortTable", kWatchColumns),
-      InterruptTable(window, "InterruptTable", kWatchColumns),
-      InstructionTable(window, "InstructionTable", kInstructionColumns) {
+WatchTables::WatchTables(Control* parent) : window(parent) {
   for (Grid* table : AllTables()) table->SetFixedRows(kHeadingRows);
   for (Grid* table : {&RegisterTable, &MemoryTable, &PortTable, &InterruptTable}) {
-    table->SetColAlignment(kTitleColumn, kCentred);
-    table->SetColAlignment(kValueColumn, kCentred);
+    table->SetColAlignment(kTitleColumn, kAlignCentreTop);
+    table->SetColAlignment(kValueColumn, kAlignCentreTop);
   }
   for (int column = 0; column < kInstructionColumns; ++column) {
     const auto position = static_cast<std::size_t>(column);

@@ -24,6 +24,8 @@ inline constexpr int kPortCount = 0x100;
 
 /// The columns of all tables but `InstructionTable`, whose columns are those of the program.
 enum WatchColumn : int { kTitleColumn, kValueColumn };
+inline constexpr int kWatchColumns = 2;
+inline constexpr int kInstructionColumns = 4;
 
 /// The rows of `RegisterTable`.
 enum RegisterRow : int {
@@ -54,9 +56,6 @@ inline constexpr int kHighAbovePair = 2;
 /// The rows of `InterruptTable`, from the line of highest rank.
 enum InterruptRow : int { kRowTrap = 1, kRowRst75, kRowRst65, kRowRst55, kRowIntr };
 
-inline constexpr CellColor kMaskedColor{0x0000FF};
-inline constexpr CellColor kEnabledColor{0x00FF00};
-
 /// The data row of `InstructionTable`.
 inline constexpr int kInstructionRow = 1;
 
@@ -64,13 +63,14 @@ inline constexpr int kInstructionRow = 1;
 inline Number NumberOf(std::string_view text) { return static_cast<std::int32_t>(HexValue(text)); }
 
 struct WatchTables {
-  explicit WatchTables(Control* window);
+  explicit WatchTables(Control* parent);
 
-  Grid RegisterTable;
-  Grid MemoryTable;
-  Grid PortTable;
-  Grid InterruptTable;
-  Grid InstructionTable;
+  Control* window;  // which shows the tables
+  Grid RegisterTable{window, "RegisterTable", kWatchColumns};
+  Grid MemoryTable{window, "MemoryTable", kWatchColumns};
+  Grid PortTable{window, "PortTable", kWatchColumns};
+  Grid InterruptTable{window, "InterruptTable", kWatchColumns};
+  Grid InstructionTable{window, "InstructionTable", kInstructionColumns};
 
   /// Fills the tables, which are empty, with their start values.
   void Load();

@@ -8,7 +8,6 @@
 namespace quilla {
 namespace {
 
-constexpr const char* kLowLevel = "0";
 constexpr const char* kHighLevel = "1";
 constexpr const char* kFirstAddress = "0000";
 
@@ -27,25 +26,17 @@ std::vector<std::string> AllBytes() {
 }  // namespace
 
 WatchWindowDialog::WatchWindowDialog(std::function<void(const std::string&)> show_information)
-    : machine_(tables_, std::move(show_information)),
-      IButton{Button(&form_, "IButton", kLowLevel, kRowTrap),
-              Button(&form_, "IButton", kLowLevel, kRowRst75),
-              Button(&form_, "IButton", kLowLevel, kRowRst65),
-              Button(&form_, "IButton", kLowLevel, kRowRst55),
-              Button(&form_, "IButton", kLowLevel, kRowIntr)},
-      arrows_{Box(&form_, "TRAP"), Box(&form_, "RST75"), Box(&form_, "RST65"), Box(&form_, "RST55"),
-              Box(&form_, "INTR")},
-      NUM(&AddrBox, "NUM", [this](int digit) { NUM_Click(digit); }) {
+    : machine_(tables_, std::move(show_information)) {
   form_.set_caption("Watch Window");
   form_.Unload = [this] { Form_Unload(); };
-  PortAddrList.Assign(AllBytes());
-  ValueList.Assign(AllBytes());
+  PortAddrList_.Assign(AllBytes());
+  ValueList_.Assign(AllBytes());
 
-  ExecuteButton.Click = [this] { ExecuteButton_Click(); };
-  AcceptButton.Click = [this] { AcceptButton_Click(); };
-  AcceptButton.KeyPress = DigitKeyPress([this](int digit) { NUM_Click(digit); });
-  ForceButton.Click = [this] { ForceButton_Click(); };
-  for (Button& line : IButton) {
+  ExecuteButton_.Click = [this] { ExecuteButton_Click(); };
+  AcceptButton_.Click = [this] { AcceptButton_Click(); };
+  AcceptButton_.KeyPress = DigitKeyPress([this](int digit) { NUM_Click(digit); });
+  ForceButton_.Click = [this] { ForceButton_Click(); };
+  for (Button& line : IButton_) {
     line.MouseDown = [this, &line] { IButton_MouseDown(line.index()); };
     line.MouseUp = [this, &line] { IButton_MouseUp(line.index()); };
   }
@@ -60,12 +51,12 @@ void WatchWindowDialog::Load() {
 void WatchWindowDialog::Form_Load() {
   tables_.Load();
   machine_.Reset();
-  PortAddrList.SelectFirst();
-  ValueList.SelectFirst();
-  for (Button& line : IButton) line.set_caption(kLowLevel);
-  AddrLbl.set_caption(kFirstAddress);
-  AcceptButton.SetFocus();
-  StepNoteLabel.set_caption({});
+  PortAddrList_.SelectFirst();
+  ValueList_.SelectFirst();
+  for (Button& line : IButton_) line.set_caption(kLowLevel);
+  AddrLbl_.set_caption(kFirstAddress);
+  AcceptButton_.SetFocus();
+  StepNoteLabel_.set_caption({});
 }
 
 void WatchWindowDialog::Form_Unload() {
@@ -80,12 +71,12 @@ void WatchWindowDialog::ExecuteButton_Click() {
 }
 
 void WatchWindowDialog::AcceptButton_Click() {
-  Attempt([this] { machine_.StartAt(AddrLbl.caption()); }, kAddressFailed);
+  Attempt([this] { machine_.StartAt(AddrLbl_.caption()); }, kAddressFailed);
 }
 
 void WatchWindowDialog::NUM_Click(int index) {
-  AddrLbl.set_caption(ShiftIn(AddrLbl.caption(), index));
-  AcceptButton.SetFocus();
+  AddrLbl_.set_caption(ShiftIn(AddrLbl_.caption(), index));
+  AcceptButton_.SetFocus();
 }
 
 void WatchWindowDialog::IButton_MouseDown(int index) {
@@ -100,15 +91,15 @@ void WatchWindowDialog::IButton_MouseUp(int index) {
 }
 
 void WatchWindowDialog::ForceButton_Click() {
-  tables_.SetPort(PortAddrList.index(), ValueList.text());
+  tables_.SetPort(PortAddrList_.index(), ValueList_.text());
 }
 
 void WatchWindowDialog::Attempt(const std::function<void()>& operation, const char* note) {
-  StepNoteLabel.set_caption({});
+  StepNoteLabel_.set_caption({});
   try {
     operation();
   } catch (const Failure&) {
-    StepNoteLabel.set_caption(note);
+    StepNoteLabel_.set_caption(note);
   }
 }
 

@@ -11,6 +11,7 @@
 #include "platform/form.h"
 #include "platform/text_list.h"
 #include "program/digit_keys.h"
+#include "program/vocabulary.h"
 #include "simulator/machine.h"
 #include "simulator/watch_tables.h"
 
@@ -29,6 +30,7 @@ class WatchWindowDialog {
 
  private:
   static constexpr int kLines = 5;
+  static constexpr const char* kLowLevel = "0";
 
   void Form_Load();
   void Form_Unload();
@@ -41,38 +43,43 @@ class WatchWindowDialog {
 
   /// Runs an operation of the machine; if it fails, `note` tells the user so.
   void Attempt(const std::function<void()>& operation, const char* note);
-  Button& LineButton(int index) { return IButton[static_cast<std::size_t>(index - 1)]; }
+  Button& LineButton(int index) { return IButton_[static_cast<std::size_t>(index - 1)]; }
 
-  Form form_{"WatchWindowDialog"};
+  Form form_{kWatchWindowDialog};
   WatchTables tables_{&form_};
   Machine machine_;
   bool loaded_ = false;
 
-  Label RegisterCaption{&form_, "RegisterCaption", "Register Contents"};
-  Label MemoryCaption{&form_, "MemoryCaption", "Memory Contents"};
-  Label PortCaption{&form_, "PortCaption", "Port Data"};
-  Label InterruptCaption{&form_, "InterruptCaption", "Interrupts"};
-  Label InstructionCaption{&form_, "InstructionCaption", "Instructions"};
+  Label RegisterCaption_{&form_, "RegisterCaption", "Register Contents"};
+  Label MemoryCaption_{&form_, "MemoryCaption", "Memory Contents"};
+  Label PortCaption_{&form_, "PortCaption", "Port Data"};
+  Label InterruptCaption_{&form_, "InterruptCaption", "Interrupts"};
+  Label InstructionCaption_{&form_, "InstructionCaption", "Instructions"};
 
   // The keys of the interrupt lines, by row of their table, and the arrows from key to table.
-  std::array<Button, kLines> IButton;
-  std::array<Box, kLines> arrows_;
+  std::array<Button, kLines> IButton_{Button(&form_, "IButton", kLowLevel, kRowTrap),
+                                      Button(&form_, "IButton", kLowLevel, kRowRst75),
+                                      Button(&form_, "IButton", kLowLevel, kRowRst65),
+                                      Button(&form_, "IButton", kLowLevel, kRowRst55),
+                                      Button(&form_, "IButton", kLowLevel, kRowIntr)};
+  std::array<Box, kLines> arrows_{Box(&form_, "TRAP"), Box(&form_, "RST75"), Box(&form_, "RST65"),
+                                  Box(&form_, "RST55"), Box(&form_, "INTR")};
 
-  Label PortAddrCaption{&form_, "PortAddrCaption", "Address"};
-  ComboBox PortAddrList{&form_, "PortAddrList"};
-  Label ValueCaption{&form_, "ValueCaption", "Value"};
-  ComboBox ValueList{&form_, "ValueList"};
-  Button ForceButton{&form_, "ForceButton", "&Force"};
+  Label PortAddrCaption_{&form_, "PortAddrCaption", "Address"};
+  ComboBox PortAddrList_{&form_, "PortAddrList"};
+  Label ValueCaption_{&form_, "ValueCaption", "Value"};
+  ComboBox ValueList_{&form_, "ValueList"};
+  Button ForceButton_{&form_, "ForceButton", "&Force"};
 
-  Box AddrBox{&form_, "AddrBox"};
-  Label AddrCaption{&AddrBox, "AddrCaption", "Starting Addr.:"};
-  Label AddrLbl{&AddrBox, "AddrLbl"};
-  DigitKeys NUM;
-  Button AcceptButton{&AddrBox, "AcceptButton", "&OK"};
+  Box AddrBox_{&form_, "AddrBox"};
+  Label AddrCaption_{&AddrBox_, "AddrCaption", "Starting Addr.:"};
+  Label AddrLbl_{&AddrBox_, "AddrLbl"};
+  DigitKeys NUM_{&AddrBox_, "NUM", [this](int digit) { NUM_Click(digit); }};
+  Button AcceptButton_{&AddrBox_, "AcceptButton", "&OK"};
 
-  Button ExecuteButton{&form_, "ExecuteButton", "&Execute"};
+  Button ExecuteButton_{&form_, "ExecuteButton", "&Execute"};
   // Empty unless the last step or starting address failed.
-  Label StepNoteLabel{&form_, "StepNoteLabel"};
+  Label StepNoteLabel_{&form_, "StepNoteLabel"};
 };
 
 }  // namespace quilla

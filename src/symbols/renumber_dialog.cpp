@@ -10,7 +10,6 @@ namespace {
 constexpr const char* kCaption = "Equivalents Tool Window";
 constexpr const char* kHeadings[] = {"Label", "Current", "New"};
 constexpr int kHeadingRows = 1;
-constexpr int kCentred = 3;
 
 enum EquivalentColumn : int { kName, kCurrent, kNew };
 
@@ -50,7 +49,7 @@ void EquivalentsPage::Load(const TextList& names, const TextList& equivalents) {
   Table_.SetRows(kHeadingRows + names.Count());
   for (int column = 0; column < kColumns; ++column) {
     Table_.SetTextMatrix(0, column, kHeadings[column]);
-    Table_.SetColAlignment(column, kCentred);
+    Table_.SetColAlignment(column, kAlignCentreTop);
   }
   for (int i = 0; i < names.Count(); ++i) {
     Table_.SetTextMatrix(i + kHeadingRows, kName, names[i]);

@@ -80,7 +80,7 @@ class RenumberDialog {
   void TakeVariables();
 
   Session& session_;
-  Form form_{"RenumberDialog"};
+  Form form_{kRenumberDialog};
   Option LabelsOption_{&form_, "LabelsOption", "&Labels"};
   Option VariablesOption_{&form_, "VariablesOption", "&Variables"};
   EquivalentsPage labels_{session_,

@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 
+#include "program/vocabulary.h"
 #include "window/colors.h"
 
 namespace quilla {
@@ -30,17 +31,16 @@ const std::array kPencil = {MarkPoint(0.0, 1.0),  MarkPoint(0.1, 0.65), MarkPoin
                             MarkPoint(1.0, 0.25), MarkPoint(0.35, 0.9), MarkPoint(0.0, 1.0)};
 
 struct PaintedLook {
-  int value;  // the painted colour, blue-green-red
+  CellColor color;
   bool bold;
   std::span<const MarkPoint> mark;
 };
 
-// Picked, to be left alone, found, and the comment under edit; an origin row has none, its word
-// tells it.
+// An origin row has no mark: its word tells it.
 const std::array kPaintedLooks = {
-    PaintedLook{0x00FF00, true, kTick},    PaintedLook{0x0000FF, false, kCross},
-    PaintedLook{0xFF0000, true, kDiamond}, PaintedLook{0xC0FFC0, false, kPencil},
-    PaintedLook{0xE0E0E0, true, {}},
+    PaintedLook{kPickedColor, true, kTick},   PaintedLook{kCandidateColor, false, kCross},
+    PaintedLook{kFoundColor, true, kDiamond}, PaintedLook{kCommentColor, false, kPencil},
+    PaintedLook{kOriginColor, true, {}},
 };
 
 struct Look {
@@ -62,7 +62,7 @@ Look LookOf(CellColor back, CellColor fore, const QPalette& palette, QPalette::C
     look.back = FromBlueGreenRed(static_cast<unsigned>(back.value()));
     look.fore = TextOn(*look.back);
     for (const PaintedLook& painted : kPaintedLooks) {
-      if (painted.value != back.value()) continue;
+      if (painted.color != back) continue;
       look.bold = painted.bold;
       look.mark = painted.mark;
     }

@@ -7,11 +7,6 @@
 #include "window/qt_text.h"
 
 namespace quilla {
-namespace {
-
-constexpr int kAlignLeft = 1;
-
-}  // namespace
 
 GridModel::GridModel(Grid& grid, QObject* parent)
     : QAbstractTableModel(parent), grid_(grid), row_count_(grid.Rows()) {

@@ -54,7 +54,7 @@ QWidget* MainWindow::MakeHeadings() {
   const WidgetMaker make(mirror_, strip);
   while (QWidget* const heading = make.MakeBold("HeadLabel", static_cast<int>(headings_.size()))) {
     const auto& grid = static_cast<const Grid&>(*mirror_.form().Find(kTable));
-    const bool left = grid.ColAlignment(static_cast<int>(headings_.size())) == 1;
+    const bool left = grid.ColAlignment(static_cast<int>(headings_.size())) == kAlignLeft;
     static_cast<QLabel*>(heading)->setAlignment(left ? Qt::AlignLeft : Qt::AlignHCenter);
     static_cast<QLabel*>(heading)->setMargin(2);
     row->addWidget(heading);

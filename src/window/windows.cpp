@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "program/vocabulary.h"
 #include "window/main_window.h"
 #include "window/renumber_window.h"
 #include "window/splash_window.h"
@@ -22,10 +23,10 @@ std::unique_ptr<QWidget> Make(Gate& gate, EventLoop& event_loop, Form& form) {
 
 std::unique_ptr<QWidget> MakeWindow(Gate& gate, EventLoop& event_loop, Form& form) {
   static const std::map<std::string, Maker> kMakers = {
-      {"OpenForm", Make<SplashWindow>},
-      {"ProgrammingPanel", Make<MainWindow>},
-      {"RenumberDialog", Make<RenumberWindow>},
-      {"WatchWindowDialog", Make<WatchWindow>},
+      {kOpenForm, Make<SplashWindow>},
+      {kProgrammingPanel, Make<MainWindow>},
+      {kRenumberDialog, Make<RenumberWindow>},
+      {kWatchWindowDialog, Make<WatchWindow>},
   };
   return kMakers.at(form.name())(gate, event_loop, form);
 }

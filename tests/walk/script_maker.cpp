@@ -18,8 +18,6 @@
 namespace quilla::walk {
 namespace {
 
-constexpr const char* kPanel = "ProgrammingPanel";
-
 /// What a user does instead of a command that must not be run.
 constexpr const char* kPause = "tick 10";
 
@@ -34,7 +32,7 @@ constexpr std::string_view kPortStates[] = {"present", "missing", "busy", "broke
 /// The control as a script names it.
 std::string NameOf(const Control& control) {
   std::string name = control.name();
-  if (control.form()->name() != kPanel) name.insert(0, control.form()->name() + '.');
+  if (control.form()->name() != kProgrammingPanel) name.insert(0, control.form()->name() + '.');
   if (control.index() != Control::kNoIndex) name += ' ' + std::to_string(control.index());
   return name;
 }
@@ -295,7 +293,8 @@ std::string ScriptMaker::Hover() {
 std::string ScriptMaker::CloseWindow() {
   std::vector<std::string> open;
   for (const Form* form : quilla_.Forms()) {
-    if (form->visible() && (form->name() != kPanel || Below(20) == 0)) open.push_back(form->name());
+    if (form->visible() && (form->name() != kProgrammingPanel || Below(20) == 0))
+      open.push_back(form->name());
   }
   return open.empty() ? kPause : "close " + AnyOf(open);
 }

@@ -48,7 +48,7 @@ class PicturingHands : public WidgetHands {
     if (step >= names_.size() || names_[step].empty()) return;
     for (const auto& [form, window] : shown()) {
       const bool used = form == event_loop_.active() ||
-                        (event_loop_.active() == nullptr && form->name() == "ProgrammingPanel");
+                        (event_loop_.active() == nullptr && form->name() == kProgrammingPanel);
       if (used) TakePicture(*window.window, names_[step]);
     }
   }

@@ -1,0 +1,7 @@
+#include "panel/version.h"
+
+namespace quilla {
+
+const char* const kVersion = QUILLA_VERSION;
+
+}  // namespace quilla

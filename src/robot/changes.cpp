@@ -114,10 +114,12 @@ std::vector<std::pair<std::string, std::string>> Changes::VariablesOf(const Sess
   add("FileName", Quoted(session.FileName));
   add("ProjectPath", Quoted(session.ProjectPath));
   add("HexPath", Quoted(session.HexPath));
+  add("HexTitle", Quoted(session.HexTitle));
   add("MessageResult", Quoted(session.MessageResult));
   add("NextLabelNumber", std::to_string(session.NextLabelNumber));
   add("NextVariableNumber", std::to_string(session.NextVariableNumber));
-  add("CommPort", std::to_string(session.MSComm1.CommPort));
+  add("CommPortNumber", std::to_string(session.CommPortNumber));
+  add("MSComm1.CommPort", std::to_string(session.MSComm1.CommPort));
   return variables;
 }
 

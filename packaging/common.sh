@@ -1,4 +1,4 @@
-# Shared by ./run, ./test and packaging/tidy, which source it from the top folder: installs the
+# Shared by ./run, ./test and tools/tidy, which source it from the top folder: installs the
 # Debian packages of packages.txt that are missing, and configures the presets.
 # shellcheck shell=sh
 

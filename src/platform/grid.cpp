@@ -35,14 +35,22 @@ void Grid::InsertRows(int at, int count) {
   if (at < 0 || at > Rows() || count < 0) throw Failure(ErrorNumber::kOutsideTable);
   if (count > kMaxRows - Rows()) throw Failure(ErrorNumber::kGridMemory);
   if (count == 0) return;
+  const std::size_t cells = static_cast<std::size_t>(count) * static_cast<std::size_t>(columns_);
+  MakeRoom(cells_.size() + cells);
+  if (grid_observer != nullptr) grid_observer->BeginInsertRows(at, at + count - 1);
+  cells_.insert(StartOf(at), cells, Cell{});
+  rows_ += count;
+  if (grid_observer != nullptr) grid_observer->EndInsertRows();
+}
+
+// Ahead of the change, so that nothing fails between its beginning and its end.
+void Grid::MakeRoom(std::size_t cells) {
+  if (cells <= cells_.capacity()) return;
   try {
-    cells_.insert(StartOf(at), static_cast<std::size_t>(count) * static_cast<std::size_t>(columns_),
-                  Cell{});
+    cells_.reserve(std::max(cells, 2 * cells_.capacity()));
   } catch (const std::bad_alloc&) {
     throw Failure(ErrorNumber::kGridMemory);
   }
-  rows_ += count;
-  if (grid_observer != nullptr) grid_observer->RowsInserted(at, count);
 }
 
 void Grid::AddItem(std::string text) {
@@ -52,10 +60,11 @@ void Grid::AddItem(std::string text) {
 
 void Grid::RemoveRows(int first, int last) {
   if (first < 0 || last >= Rows() || first > last) throw Failure(ErrorNumber::kOutsideTable);
+  if (grid_observer != nullptr) grid_observer->BeginRemoveRows(first, last);
   cells_.erase(StartOf(first), StartOf(last + 1));
   rows_ -= last - first + 1;
   KeepCurrentCellInside();
-  if (grid_observer != nullptr) grid_observer->RowsRemoved(first, last - first + 1);
+  if (grid_observer != nullptr) grid_observer->EndRemoveRows();
 }
 
 void Grid::Clear() {

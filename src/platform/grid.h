@@ -34,12 +34,18 @@ class CellColor {
 inline constexpr CellColor kNormalColor;         // the grid's own, never painted or painted back
 inline constexpr CellColor kSelectionColor{-2};  // the grid's selection colour
 
+/// Rows `first` to `last` here and below, both ends included. What is begun is ended, with nothing
+/// told between.
 class GridObserver : public ControlObserver {
  public:
-  /// Texts or colours of these rows have changed, both ends included.
+  /// Texts or colours have changed.
   virtual void RowsChanged(int first, int last) = 0;
-  virtual void RowsInserted(int first, int count) = 0;
-  virtual void RowsRemoved(int first, int count) = 0;
+  /// Empty rows are about to come as these rows; they have come.
+  virtual void BeginInsertRows(int first, int last) = 0;
+  virtual void EndInsertRows() = 0;
+  /// These rows are about to go; they have gone.
+  virtual void BeginRemoveRows(int first, int last) = 0;
+  virtual void EndRemoveRows() = 0;
 };
 
 /// How a grid shows its mouse selection: nothing reads it but the window.
@@ -148,6 +154,7 @@ class Grid : public Control {
   std::vector<Cell>::iterator StartOf(int row) {
     return cells_.begin() + static_cast<std::ptrdiff_t>(row) * columns_;
   }
+  void MakeRoom(std::size_t cells);
   void MoveTo(int row, int column);
   void KeepCurrentCellInside();
   void RowChanged(int row) const {

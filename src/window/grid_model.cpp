@@ -8,10 +8,9 @@
 
 namespace quilla {
 
-GridModel::GridModel(Grid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(grid), row_count_(grid.Rows()) {
+GridModel::GridModel(Grid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {
   grid_.grid_observer = this;
-  for (int row = 0; row < row_count_ && cursor_row_ == kNone; ++row) {
+  for (int row = 0; row < grid_.Rows() && cursor_row_ == kNone; ++row) {
     if (HasCursor(row)) cursor_row_ = row;
   }
 }
@@ -19,24 +18,16 @@ GridModel::GridModel(Grid& grid, QObject* parent)
 GridModel::~GridModel() { grid_.grid_observer = nullptr; }
 
 int GridModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : row_count_;
+  return parent.isValid() ? 0 : grid_.Rows();
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : grid_.Cols();
 }
 
-int GridModel::GridRow(int row) const {
-  if (announced_count_ == 0 || row < announced_at_) return row;
-  if (announced_count_ < 0 && row < announced_at_ - announced_count_) return kNone;
-  return row + announced_count_;
-}
-
 QVariant GridModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) {
-    const int row = GridRow(index.row());
-    if (row < 0 || row >= grid_.Rows()) return {};
-    return ToQt(grid_.TextMatrix(row, index.column()));
+    return ToQt(grid_.TextMatrix(index.row(), index.column()));
   }
   if (role == Qt::TextAlignmentRole) {
     const bool left = grid_.ColAlignment(index.column()) == kAlignLeft;
@@ -78,30 +69,20 @@ void GridModel::RowsChanged(int first, int last) {
   }
 }
 
-void GridModel::RowsInserted(int first, int count) {
+void GridModel::BeginInsertRows(int first, int last) {
   ReportTouchedRows();
-  announced_at_ = first;
-  announced_count_ = count;
-  beginInsertRows({}, first, first + count - 1);
-  announced_count_ = 0;
-  row_count_ += count;
-  endInsertRows();
-  if (cursor_row_ >= first) cursor_row_ += count;
+  if (cursor_row_ >= first) cursor_row_ += last - first + 1;
+  beginInsertRows({}, first, last);
 }
 
-void GridModel::RowsRemoved(int first, int count) {
+void GridModel::BeginRemoveRows(int first, int last) {
   ReportTouchedRows();
-  announced_at_ = first;
-  announced_count_ = -count;
-  beginRemoveRows({}, first, first + count - 1);
-  announced_count_ = 0;
-  row_count_ -= count;
-  endRemoveRows();
-  if (cursor_row_ >= first + count) {
-    cursor_row_ -= count;
+  if (cursor_row_ > last) {
+    cursor_row_ -= last - first + 1;
   } else if (cursor_row_ >= first) {
     cursor_row_ = kNone;
   }
+  beginRemoveRows({}, first, last);
 }
 
 void GridModel::timerEvent(QTimerEvent* event) {
@@ -116,7 +97,7 @@ void GridModel::timerEvent(QTimerEvent* event) {
 void GridModel::ReportTouchedRows() {
   if (touched_first_ == kNone) return;
   const int first = std::exchange(touched_first_, kNone);
-  const int last = std::min(touched_last_, row_count_ - 1);
+  const int last = std::min(touched_last_, grid_.Rows() - 1);
   if (first > last) return;
   Q_EMIT dataChanged(index(first, 0), index(last, grid_.Cols() - 1));
   if (first < grid_.FixedRows()) Q_EMIT headerDataChanged(Qt::Horizontal, 0, grid_.Cols() - 1);

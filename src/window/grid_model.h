@@ -34,31 +34,26 @@ class GridModel : public QAbstractTableModel, public GridObserver {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  // Told by the grid, after the change.
+  // Told by the grid.
   void PropertyChanged(Property /*property*/) override {}
   void RowsChanged(int first, int last) override;
-  void RowsInserted(int first, int count) override;
-  void RowsRemoved(int first, int count) override;
+  void BeginInsertRows(int first, int last) override;
+  void EndInsertRows() override { endInsertRows(); }
+  void BeginRemoveRows(int first, int last) override;
+  void EndRemoveRows() override { endRemoveRows(); }
 
   void ReportTouchedRows();
   bool HasCursor(int row) const;
-  /// The row of the grid behind `row`, or -1 for a row that is just being removed.
-  int GridRow(int row) const;
 
   static constexpr int kNone = -1;
 
   Grid& grid_;
-  int row_count_;
   // The rows touched since the last report, reported together when the handler is over.
   int touched_first_ = kNone;
   int touched_last_ = kNone;
   QBasicTimer report_timer_;
   int cursor_row_ = kNone;
   bool cursor_touched_ = false;
-  // While rows are announced to come (count above 0) or go (below 0), which the grid has done
-  // already.
-  int announced_at_ = 0;
-  int announced_count_ = 0;
 };
 
 }  // namespace quilla

@@ -30,6 +30,7 @@ void NewFileCommand::New_File() {
   session_.Table1.SelectRow(0);
   session_.LastLine = 0;
   session_.ProgrammingPanel.set_caption(kTitle + session_.FileName);
+  session_.PrintCommentText.set_text({});
   states_.ControlTransfer(PanelState::kReady);
   session_.OriginList.Clear();
   session_.LastAddressList.Clear();

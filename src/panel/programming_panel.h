@@ -21,6 +21,10 @@
 #include "link/port_menu.h"
 #include "link/upload.h"
 #include "platform/form.h"
+#include "print/print_comment.h"
+#include "print/print_info.h"
+#include "print/print_run.h"
+#include "print/print_state.h"
 #include "program/entry_line.h"
 #include "program/quit.h"
 #include "program/rows.h"
@@ -48,7 +52,9 @@ class ProgrammingPanel {
   Session& session() { return session_; }
   Form& form() { return session_.ProgrammingPanel; }
   /// The dialogs that belong to the panel, open or not.
-  std::vector<Form*> Dialogs() { return {&equivalents_.form(), &watch_window_.form()}; }
+  std::vector<Form*> Dialogs() {
+    return {&equivalents_.form(), &watch_window_.form(), &print_info_.form()};
+  }
 
  private:
   void Form_Load();
@@ -82,6 +88,10 @@ class ProgrammingPanel {
   SimulationStart simulation_{session_, watch_window_,
                               [this](bool report) { addresses_.Assign_Address(report); }};
   Assembler assembler_{session_, states_, addresses_, strings_};
+  PrintState printing_;
+  PrintInfo print_info_{session_, printing_};
+  PrintComment print_comment_{session_, states_, printing_};
+  PrintRun print_run_{session_, printing_, addresses_};
   NewFileCommand new_file_{session_, states_, rows_, numbers_};
   ProjectFile project_{session_, states_, rows_, origins_, new_file_};
   PortMenu ports_{session_};

@@ -2,6 +2,8 @@
 #ifndef QUILLA_PLATFORM_OUTSIDE_H_
 #define QUILLA_PLATFORM_OUTSIDE_H_
 
+#include <string>
+
 #include "platform/dialogs.h"
 #include "platform/form.h"
 #include "platform/serial_port.h"
@@ -40,8 +42,14 @@ class EventLoop {
 class PagePrinter {
  public:
   virtual ~PagePrinter() = default;
-  /// Prints a page layout as it stands, one sheet on the default printer.
+  /// Begins a run: its sheets are one print job of the document `name`. Gives false, and begins
+  /// none, if the user was asked where to print and gave no place.
+  virtual bool BeginRun(const std::string& name) = 0;
+  /// Prints a page layout as it stands, one sheet on the default printer. Fails with
+  /// `kWriteFailed` if the printer refuses it.
   virtual void PrintForm(const Form& layout) = 0;
+  /// Ends the run. One without sheets leaves nothing behind.
+  virtual void EndRun() = 0;
 };
 
 struct Outside {

@@ -12,6 +12,7 @@
 #include "platform/form.h"
 #include "platform/grid.h"
 #include "platform/outside.h"
+#include "platform/text_box.h"
 #include "platform/text_list.h"
 #include "program/panel_menu.h"
 #include "program/panel_state.h"
@@ -62,6 +63,9 @@ struct Session {
   ComboBox FindCombo{nullptr, "FindCombo"};
   ComboBox PlaceCombo{nullptr, "PlaceCombo"};
   ComboBox ReplaceCombo{nullptr, "ReplaceCombo"};
+
+  // The comment of printed pages as it stands in its box.
+  TextBox PrintCommentText{nullptr, "PrintCommentText"};
 
   // Blocks, and the assembled image.
   TextList OriginList{nullptr, "OriginList"};

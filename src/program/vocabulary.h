@@ -46,6 +46,7 @@ inline constexpr const char* kOpenForm = "OpenForm";
 inline constexpr const char* kProgrammingPanel = "ProgrammingPanel";
 inline constexpr const char* kRenumberDialog = "RenumberDialog";
 inline constexpr const char* kDataDialog = "DataDialog";
+inline constexpr const char* kPrintInfo = "PrintInfo";
 inline constexpr const char* kWatchWindowDialog = "WatchWindowDialog";
 
 }  // namespace quilla

@@ -38,7 +38,10 @@ FormMirror::FormMirror(Gate& gate, EventLoop& event_loop, Form& form, QWidget& w
   qApp->installEventFilter(this);
 }
 
-FormMirror::~FormMirror() { form_.observer = nullptr; }
+FormMirror::~FormMirror() {
+  form_.observer = nullptr;
+  if (busy_) QApplication::restoreOverrideCursor();
+}
 
 void FormMirror::Register(Control& control, QWidget& widget) {
   widgets_.insert(&control, &widget);
@@ -100,6 +103,8 @@ Control* FormMirror::ControlAt(const QWidget* widget) const {
 void FormMirror::PropertyChanged(Property property) {
   if (property == Property::kCaption) {
     window_.setWindowTitle(ToQt(form_.caption()));
+  } else if (property == Property::kEnabled) {
+    ShowEnabled();
   } else if (property == Property::kPointer) {
     ShowPointer();
   } else if (property == Property::kDefault) {
@@ -111,11 +116,22 @@ void FormMirror::PropertyChanged(Property property) {
   }
 }
 
+// Qt switches the menus of a window with it, whatever their entries say.
+void FormMirror::ShowEnabled() {
+  window_.setEnabled(form_.enabled());
+  for (auto entry = actions_.cbegin(); entry != actions_.cend(); ++entry) {
+    entry.value()->setEnabled(entry.key()->enabled());
+  }
+}
+
+// A window that takes no input has no pointer of its own, so the busy one is the whole program's.
 void FormMirror::ShowPointer() {
-  if (form_.pointer() == FormPointer::kBusy) {
-    window_.setCursor(Qt::WaitCursor);
+  const bool busy = form_.pointer() == FormPointer::kBusy;
+  if (std::exchange(busy_, busy) == busy) return;
+  if (busy) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
   } else {
-    window_.unsetCursor();
+    QApplication::restoreOverrideCursor();
   }
 }
 

@@ -74,6 +74,7 @@ class FormMirror final : public QObject, private ControlObserver {
   Control* KeyTaker() const;
   bool HandlePointer(const QWidget& widget, const QMouseEvent& mouse);
   void MarkDefaultButton();
+  void ShowEnabled();
   void ShowPointer();
 
   Gate& gate_;
@@ -84,6 +85,7 @@ class FormMirror final : public QObject, private ControlObserver {
   QHash<const Control*, QAction*> actions_;
   QHash<const QWidget*, Control*> controls_;
   bool focus_asked_ = false;
+  bool busy_ = false;
   QPointer<QWidget> focus_before_;
   const Button* marked_default_ = nullptr;
 };

@@ -12,6 +12,4 @@ void NoSerialPort::Write(const std::string& /*bytes*/) { throw Failure(ErrorNumb
 
 std::string NoSerialPort::Read() { throw Failure(ErrorNumber::kPortFailed); }
 
-void NoPrinter::PrintForm(const Form& /*layout*/) { throw Failure(ErrorNumber::kWriteFailed); }
-
 }  // namespace quilla

@@ -7,6 +7,7 @@
 #include "window/qt_clock.h"
 #include "window/qt_dialogs.h"
 #include "window/qt_event_loop.h"
+#include "window/qt_printer.h"
 #include "window/windows.h"
 
 namespace quilla {
@@ -23,12 +24,6 @@ class NoSerialPort : public SerialPort {
   std::string Read() override;
 };
 
-/// A machine without a printer.
-class NoPrinter : public PagePrinter {
- public:
-  void PrintForm(const Form& layout) override;
-};
-
 class QtOutside {
  public:
   Outside& ports() { return ports_; }
@@ -41,7 +36,7 @@ class QtOutside {
   QtFileDialogs file_dialogs_;
   NoSerialPort serial_port_;
   QtClock clock_{gate_};
-  NoPrinter printer_;
+  QtPrinter printer_;
   QtEventLoop event_loop_{gate_,
                           [this](Form& form) { return MakeWindow(gate_, event_loop_, form); }};
   Outside ports_{boxes_, file_dialogs_, serial_port_, clock_, printer_, event_loop_};

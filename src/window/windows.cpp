@@ -5,6 +5,7 @@
 
 #include "program/vocabulary.h"
 #include "window/main_window.h"
+#include "window/print_info_window.h"
 #include "window/renumber_window.h"
 #include "window/splash_window.h"
 #include "window/watch_window.h"
@@ -23,9 +24,8 @@ std::unique_ptr<QWidget> Make(Gate& gate, EventLoop& event_loop, Form& form) {
 
 std::unique_ptr<QWidget> MakeWindow(Gate& gate, EventLoop& event_loop, Form& form) {
   static const std::map<std::string, Maker> kMakers = {
-      {kOpenForm, Make<SplashWindow>},
-      {kProgrammingPanel, Make<MainWindow>},
-      {kRenumberDialog, Make<RenumberWindow>},
+      {kOpenForm, Make<SplashWindow>},         {kPrintInfo, Make<PrintInfoWindow>},
+      {kProgrammingPanel, Make<MainWindow>},   {kRenumberDialog, Make<RenumberWindow>},
       {kWatchWindowDialog, Make<WatchWindow>},
   };
   return kMakers.at(form.name())(gate, event_loop, form);

@@ -39,7 +39,8 @@ shown: XXBox
 hidden: InstructionBox XXDoneButton XXFindButton XXReplaceButton
 disabled: AssembleFile AssignAddress CommentsTool CopyEdit CutEdit DeleteEdit DeleteLabels
     DeleteUnusedLabels DownloadFile EntryMode EqtOption FindEdit NewFileMenu OpenFile PlaceLabelTool
-    QuitFile ReplaceEdit SaveAsFile SaveFile UploadFile XXAcceptButton XXCombo
+    PrintFile PrintOptions QuitFile ReplaceEdit SaveAsFile SaveFile UploadFile XXAcceptButton
+    XXCombo
 checked: NewXXOption
 focus: XXText
 default: XXAcceptButton
@@ -80,7 +81,7 @@ shown: InstructionBox
 hidden: PlaceBox
 enabled: AssembleFile AssignAddress CommentsTool CopyEdit CutEdit DeleteEdit DeleteLabels
     DeleteUnusedLabels DownloadFile EntryMode EqtOption FindEdit NewFileMenu OpenFile PlaceLabelTool
-    QuitFile ReplaceEdit SaveAsFile SaveFile UploadFile
+    PrintFile PrintOptions QuitFile ReplaceEdit SaveAsFile SaveFile UploadFile
 # Rows that come in between move the others.
 > cell Table1 2 2 ; click WriteModeLabel ; row NOP ; changes
 session: CurrentRow=3 LastLine=11 SelectionTop=3 SelectionBottom=3 SelectionAnchor=2

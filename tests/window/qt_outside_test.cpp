@@ -17,6 +17,7 @@
 #include "window/colors.h"
 #include "window/form_mirror.h"
 #include "window/qt_text.h"
+#include "window/when_open.h"
 
 namespace quilla {
 namespace {
@@ -48,21 +49,6 @@ TEST(GateTest, FailuresEndHereAndOthersAreKept) {
   EXPECT_EQ(gate.TakeEscaped(), nullptr);
   gate.Shut();
   gate.Enter([] { ADD_FAILURE() << "the gate is shut"; });
-}
-
-/// Runs an action as soon as an event loop runs.
-void Soon(const std::function<void()>& action) {
-  QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
-}
-
-/// Runs an action on the dialog that is about to open.
-template <typename Dialog>
-void WhenOpen(const std::function<void(Dialog&)>& action) {
-  Soon([action] {
-    auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    action(*dialog);
-  });
 }
 
 TEST(QtMessageBoxesTest, ShowTheTextAndGiveTheButton) {

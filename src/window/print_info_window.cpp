@@ -1,0 +1,34 @@
+#include "window/print_info_window.h"
+
+#include <QGridLayout>
+
+#include "window/widgets.h"
+
+namespace quilla {
+namespace {
+
+constexpr int kMargin = 20;
+constexpr int kColumnSpacing = 32;
+constexpr int kColumns = 2;
+
+}  // namespace
+
+PrintInfoWindow::PrintInfoWindow(Gate& gate, EventLoop& event_loop, Form& form)
+    : QWidget(nullptr, Qt::Dialog), mirror_(gate, event_loop, form, *this) {
+  setWindowModality(Qt::ApplicationModal);
+  auto* const grid = new QGridLayout(this);
+  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  grid->setHorizontalSpacing(kColumnSpacing);
+  const WidgetMaker make(mirror_, this);
+  int place = 0;
+  // The form has its labels in pairs, a caption and its value.
+  for (Control* control : form.controls()) {
+    const bool is_value = place % kColumns != 0;
+    grid->addWidget(make.Make(*control), place / kColumns, place % kColumns,
+                    is_value ? Qt::AlignRight : Qt::AlignLeft);
+    ++place;
+  }
+  grid->setRowStretch(grid->rowCount(), 1);
+}
+
+}  // namespace quilla

@@ -1,0 +1,265 @@
+// Paper: what a run puts into a PDF file, and how a sheet fills paper of any size.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <sstream>
+#include <string>
+
+#include "panel/quilla.h"
+#include "platform/dispatch.h"
+#include "print/page_layouts.h"
+#include "robot/scripted_outside.h"
+#include "window/panel_fixture.h"
+#include "window/print_info_window.h"
+#include "window/qt_printer.h"
+#include "window/sheet.h"
+#include "window/when_open.h"
+
+namespace quilla {
+namespace {
+
+/// The whole program without windows; its printer is the desktop's.
+class PrintTest : public testing::Test {
+ protected:
+  static constexpr int kLastRow = 40;
+  static constexpr int kStrings = 121;
+
+  void SetUp() override {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "it would print";
+    quilla_.Start();
+    outside_.clock.PassAll();
+    Session& session = quilla_.panel()->session();
+    session.Table1.SetRows(kLastRow + 2);
+    session.StringTable.SetRows(kLastRow + 2);
+    for (int row = 1; row <= kLastRow; ++row) {
+      session.Table1.SetTextMatrix(row, kMnemonicColumn, "LXI  SP,  table" + std::to_string(row));
+      session.Table1.SetTextMatrix(row, kOpcodeColumn, "31   XX   XX");
+      session.Table1.SetTextMatrix(row, kCommentColumn, std::to_string(row) + " \xC3\xA9");
+    }
+    for (int i = 1; i <= kStrings; ++i) {
+      session.XXCombo.Add("v" + std::to_string(i));
+      session.XXEqtList.Add("XX");
+    }
+  }
+
+  Session& session() { return quilla_.panel()->session(); }
+  QString PathOf(const QString& name) { return QDir(folder_.path()).filePath(name); }
+  static void ChooseFile(QFileDialog& dialog, const QString& path) {
+    dialog.findChild<QLineEdit*>()->setText(path);
+    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+  }
+  void ClickPrint() {
+    outside_.boxes.Queue(BoxAnswer::kOk);
+    Dispatch(session().menu.PrintFile.Click);
+  }
+
+  /// The text of each page, its blanks told as one; empty without the tool that reads it.
+  static QStringList PagesOf(const QString& path) {
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", path, "-"});
+    if (!reader.waitForFinished()) return {};
+    QStringList pages = QString::fromUtf8(reader.readAllStandardOutput()).split('\f');
+    pages.removeLast();
+    for (QString& page : pages) page = page.simplified();
+    return pages;
+  }
+
+  const QTemporaryDir folder_;
+  std::ostringstream transcript_;
+  robot::ScriptedOutside outside_{transcript_};
+  QtPrinter printer_;
+  Outside ports_{outside_.boxes, outside_.file_dialogs, outside_.port, outside_.clock,
+                 printer_,       outside_.event_loop};
+  Quilla quilla_{ports_};
+};
+
+TEST_F(PrintTest, ARunIsOneDocumentWithEveryRowAtItsPage) {
+  const std::string wide(70, 'w');
+  session().Table1.SetTextMatrix(5, kCommentColumn, wide);
+  session().Table1.SetTextMatrix(6, kCommentColumn, wide + wide + wide + wide);
+  WhenOpen<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.selectedFiles(), QStringList(QDir::current().filePath("Pgm1.pdf")));
+    ChooseFile(dialog, PathOf("run"));
+  });
+  ClickPrint();
+  outside_.clock.PassAll();
+  ASSERT_TRUE(QFileInfo::exists(PathOf("run.pdf"))) << "the ending is added";
+  const QStringList pages = PagesOf(PathOf("run.pdf"));
+  if (pages.isEmpty()) GTEST_SKIP() << "pdftotext is missing";
+  ASSERT_EQ(pages.size(), 4);
+  for (int page = 0; page < 4; ++page) {
+    EXPECT_TRUE(pages[page].contains("BRELVANOR COMPUTERS PVT LTD"));
+    EXPECT_TRUE(pages[page].contains(QString("Pgm1.baf Page: %1 of 4").arg(page + 1)));
+  }
+  EXPECT_TRUE(pages[0].contains("Label Addr Mnemonics Opcode Comments Origin 8000"));
+  EXPECT_TRUE(pages[2].contains("String Equivalent String Equivalent"));
+  for (int row = 7; row <= kLastRow; ++row) {
+    const QString text = QStringLiteral(u"%1 LXI SP, table%2 31 XX XX %2 \u00E9");
+    const QString address = QString::number(0x8000 + 3 * (row - 1), 16).toUpper();
+    EXPECT_TRUE(pages[row < kRowsOfPage ? 0 : 1].contains(text.arg(address).arg(row))) << row;
+  }
+  EXPECT_TRUE(pages[0].contains(QString(70, 'w') + " 800F")) << "drawn narrower";
+  EXPECT_TRUE(pages[0].contains(QStringLiteral(u"www\u2026 8012"))) << "cut short";
+  EXPECT_TRUE(pages[2].contains("v1 XX v2 XX v3 XX v4 XX v5 XX"));
+  EXPECT_TRUE(pages[2].endsWith("v120 XX"));
+  EXPECT_TRUE(pages[3].endsWith("v121 XX"));
+}
+
+TEST_F(PrintTest, ACancelOfTheFileStopsThePrint) {
+  WhenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+  ClickPrint();
+  EXPECT_TRUE(session().ProgrammingPanel.enabled());
+  EXPECT_EQ(session().TipsLabel.caption(), "New File.");
+}
+
+TEST_F(PrintTest, APlaceThatCannotBeWrittenIsToldOrEndsTheRun) {
+  const QString folder = PathOf("gone");
+  WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
+    WhenOpen<QMessageBox>([&](QMessageBox& box) {
+      EXPECT_EQ(box.text(), "Unable to save file.");
+      box.accept();
+      ASSERT_TRUE(QDir().mkdir(folder));
+      WhenOpen<QFileDialog>([&](QFileDialog& again) { ChooseFile(again, folder + "/run.pdf"); });
+    });
+    ChooseFile(dialog, folder + "/run.pdf");
+  });
+  ClickPrint();
+  EXPECT_FALSE(session().ProgrammingPanel.enabled());
+  EXPECT_TRUE(QDir(folder).isEmpty()) << "nothing is there before the first sheet";
+  ASSERT_TRUE(QDir().rmdir(folder));
+  outside_.clock.PassAll();
+  EXPECT_TRUE(session().ProgrammingPanel.enabled());
+  EXPECT_EQ(session().ProgrammingPanel.pointer(), FormPointer::kNormal);
+}
+
+struct Paper {
+  QPageSize::PageSizeId size;
+  QPageLayout::Orientation orientation;
+};
+
+class SheetTest : public testing::TestWithParam<Paper> {
+ protected:
+  static constexpr int kDpi = 100;
+  static constexpr QMarginsF kMargins{36, 36, 36, 36};
+
+  QImage Draw(const Form& layout) const {
+    QImage image(paper_.fullRectPixels(kDpi).size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PaintSheet(painter, area_, layout);
+    return image;
+  }
+
+  /// Where two pictures differ.
+  static QRect Difference(const QImage& one, const QImage& other) {
+    QRect area;
+    for (int y = 0; y < one.height(); ++y) {
+      for (int x = 0; x < one.width(); ++x) {
+        if (one.pixel(x, y) != other.pixel(x, y)) area |= QRect(x, y, 1, 1);
+      }
+    }
+    return area;
+  }
+
+  /// Each heading and each cell of the last row keeps to its column, however long its text.
+  template <typename Layout>
+  void ExpectTextsInTheirColumns(Layout& layout) {
+    const int row = layout.Table.Rows() - 1;
+    double twips = 0;
+    for (int column = 0; column < layout.Table.Cols(); ++column) {
+      twips += layout.Table.ColWidth(column);
+    }
+    double left = area_.left();
+    for (int column = 0; column < layout.Table.Cols(); ++column) {
+      const double width = layout.Table.ColWidth(column) * area_.width() / twips;
+      const QRectF place(left, area_.top(), width, area_.height());
+      left += width;
+      if (layout.form.Find("HeadLabel", column) == nullptr) continue;
+      const QImage before = Draw(layout.form);
+      layout.Table.SetTextMatrix(row, column, std::string(300, 'W'));
+      const QRect text = Difference(before, Draw(layout.form));
+      EXPECT_TRUE(place.contains(text)) << column << ", in " << layout.form.name();
+      EXPECT_GT(text.width(), 0.7 * width) << column << ", in " << layout.form.name();
+      EXPECT_GE(text.height(), 5) << column << ", in " << layout.form.name();
+    }
+  }
+
+  const QPageLayout paper_{QPageSize(GetParam().size), GetParam().orientation, kMargins};
+  const QRect area_ = paper_.paintRectPixels(kDpi);
+};
+
+TEST_P(SheetTest, FillsThePaperAndCutsNothingOff) {
+  PrintPanel listing;
+  PrintLabelPanel equivalents;
+  ExpectTextsInTheirColumns(listing);
+  ExpectTextsInTheirColumns(equivalents);
+
+  const std::string wide(200, 'W');
+  for (Label* label : {&listing.NameLabel, &listing.CommentLabel, &listing.PageLabel}) {
+    label->set_caption(label == &listing.PageLabel ? "2048" : wide);
+  }
+  for (int column = 0; column < listing.Table.Cols(); ++column) {
+    listing.Table.PaintBack(0, column, CellColor(0xD0D0D0));
+  }
+  const QImage page = Draw(listing.form);
+  QImage empty = page;
+  empty.fill(Qt::white);
+  const QRect ink = Difference(page, empty);
+  EXPECT_TRUE(area_.adjusted(-1, -1, 1, 1).contains(ink));
+  EXPECT_GE(ink.width(), area_.width() - 2);
+  EXPECT_GT(ink.height(), 0.6 * area_.height());
+  int shaded = 0;
+  for (int x = 0; x < page.width(); ++x) {
+    int grey = 0;
+    for (int y = 0; y < page.height(); ++y) grey += page.pixelColor(x, y) == QColor("#D0D0D0");
+    shaded += grey > 0 ? 1 : 0;
+  }
+  EXPECT_GE(shaded, area_.width() - 2 * listing.Table.Cols());
+}
+
+INSTANTIATE_TEST_SUITE_P(Papers, SheetTest,
+                         testing::Values(Paper{QPageSize::A4, QPageLayout::Portrait},
+                                         Paper{QPageSize::Letter, QPageLayout::Portrait},
+                                         Paper{QPageSize::A4, QPageLayout::Landscape},
+                                         Paper{QPageSize::A5, QPageLayout::Portrait}));
+
+TEST_F(PanelTest, ARunIsBusyAndTakesNoInput) {
+  outside_.boxes.Queue(BoxAnswer::kOk);
+  Press(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_FALSE(window().isEnabled());
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  QTest::keyClick(&window(), Qt::Key_P, Qt::ControlModifier);
+  EXPECT_TRUE(window().isVisible());
+  outside_.clock.PassAll();
+  EXPECT_TRUE(window().isEnabled());
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(PanelTest, ThePrintInformationHasItsCountsBesideTheirCaptions) {
+  Form* const form = quilla_.panel()->Dialogs().back();
+  ASSERT_EQ(form->name(), "PrintInfo");
+  dynamic_cast<Label*>(form->Find("TotalPagesLabel"))->set_caption("7");
+  Gate gate;
+  const PrintInfoWindow info(gate, outside_.event_loop, *form);
+  EXPECT_EQ(info.windowTitle(), "Print Information");
+  QStringList texts;
+  for (const auto* label : info.findChildren<QLabel*>()) texts += label->text();
+  EXPECT_EQ(texts.join('|'),
+            "Number of lines of program:||Number of pages for program:||Number of labels:||"
+            "Number of variables:||Total Number of strings:||Number of pages for equivalents:||"
+            "Total Number of pages:|7");
+}
+
+}  // namespace
+}  // namespace quilla

@@ -67,11 +67,7 @@ class OperandNames {
 
 void CopyOpcodes(const ProgramLayout& layout, Session& session, Rows& rows, Origins& origins) {
   Grid& table = session.Table1;
-  for (TextList* list : {static_cast<TextList*>(&session.LabelCombo), &session.LabelPlacedList,
-                         &session.LabelEqtList, &session.LabelUsedList, &session.LabelLineList,
-                         static_cast<TextList*>(&session.XXCombo), &session.XXEqtList}) {
-    list->Clear();
-  }
+  session.ClearStrings();
   rows.SetRows(session.LastLine + kSpareRows);
   session.CurrentRow = std::min(session.CurrentRow, table.Rows() - 1);
   table.Clear();

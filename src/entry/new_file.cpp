@@ -16,11 +16,7 @@ void NewFileCommand::New_File() {
   session_.StringTable.Clear();
   rows_.SetRows(kLeastRows);
   session_.menu.PasteEdit.set_enabled(session_.EditTable.Rows() > 0);
-  for (TextList* list : {static_cast<TextList*>(&session_.LabelCombo), &session_.LabelPlacedList,
-                         &session_.LabelLineList, &session_.LabelUsedList, &session_.LabelEqtList,
-                         static_cast<TextList*>(&session_.XXCombo), &session_.XXEqtList}) {
-    list->Clear();
-  }
+  session_.ClearStrings();
   session_.SelectionAnchor = 0;
   session_.SelectionTop = 0;
   session_.SelectionBottom = 0;

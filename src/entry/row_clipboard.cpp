@@ -125,8 +125,7 @@ void RowClipboard::PasteRow(int clip_row, int row, Positions& labels, Positions&
   if (!HasVariable(cell)) {
     PasteLabelOperand(clip_row, row, labels);
   } else if (variables.emplace(operand, session_.XXCombo.Count()).second) {
-    session_.XXCombo.Add(operand);
-    session_.XXEqtList.Add(std::string(ByteAt(cell, 1)));
+    session_.AddVariable(operand, std::string(ByteAt(cell, 1)));
   }
 }
 

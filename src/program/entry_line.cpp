@@ -9,6 +9,14 @@ void EntryLine::DisplayOpcode(int row) {
   session_.Table1.SetTextMatrix(row, kOpcodeColumn, OpcodeCell(session_.CurrentOpcode));
 }
 
+void EntryLine::AddOperand(const char* blanks, const std::string& name, const std::string& bytes) {
+  Grid& table = session_.Table1;
+  const int row = session_.CurrentRow;
+  table.SetTextMatrix(row, kMnemonicColumn, table.TextMatrix(row, kMnemonicColumn) + blanks + name);
+  session_.StringTable.SetTextMatrix(row, 0, name);
+  table.SetTextMatrix(row, kOpcodeColumn, table.TextMatrix(row, kOpcodeColumn) + bytes);
+}
+
 void EntryLine::FinishLine() {
   DisplayOpcode(session_.CurrentRow);
   Complete();

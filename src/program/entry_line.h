@@ -2,6 +2,8 @@
 #ifndef QUILLA_PROGRAM_ENTRY_LINE_H_
 #define QUILLA_PROGRAM_ENTRY_LINE_H_
 
+#include <string>
+
 #include "program/rows.h"
 #include "program/session.h"
 
@@ -13,6 +15,9 @@ class EntryLine {
 
   /// Writes the opcode being built to the row's Opcode cell.
   void DisplayOpcode(int row);
+  /// Adds a string operand to the row under the cursor: `blanks` and its name behind the mnemonic,
+  /// its `bytes` behind the opcode, and its name as the operand string.
+  void AddOperand(const char* blanks, const std::string& name, const std::string& bytes);
   /// Finishes the row under the cursor: its opcode, then as Complete does.
   void FinishLine();
   /// Gives the row under the cursor its default comment and moves on to the next line.

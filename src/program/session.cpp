@@ -34,6 +34,19 @@ void Session::AddLabel(const LabelRecord& label) {
   LabelEqtList.Add(label.equivalent);
 }
 
+void Session::AddVariable(const std::string& name, const std::string& equivalent) {
+  XXCombo.Add(name);
+  XXEqtList.Add(equivalent);
+}
+
+void Session::ClearStrings() {
+  for (TextList* list :
+       {static_cast<TextList*>(&LabelCombo), &LabelPlacedList, &LabelLineList, &LabelUsedList,
+        &LabelEqtList, static_cast<TextList*>(&XXCombo), &XXEqtList}) {
+    list->Clear();
+  }
+}
+
 void Session::SetWriteMode(bool insert) {
   WriteModeLabel.set_caption(insert ? kInsertMode : kOverwriteMode);
   WriteModeLabel.set_color(insert ? kInsertTextColor : kOverwriteTextColor);

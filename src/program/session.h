@@ -126,6 +126,10 @@ struct Session {
   bool IsInsertMode() const { return WriteModeLabel.caption() == kInsertMode; }
   /// Adds a label at the end of all label lists.
   void AddLabel(const LabelRecord& label);
+  /// Adds a variable at the end of both variable lists.
+  void AddVariable(const std::string& name, const std::string& equivalent);
+  /// Empties all lists of labels and variables.
+  void ClearStrings();
   void SetWriteMode(bool insert);
   /// The operand string of a row.
   const std::string& OperandOf(int row) const { return StringTable.TextMatrix(row, 0); }

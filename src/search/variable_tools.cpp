@@ -91,8 +91,7 @@ void VariableTools::XXReplaceButton_Click() {
       box_.name.AskAgain();
       return;
     }
-    session_.XXEqtList.Add(kUnknownByte);
-    session_.XXCombo.Add(name);
+    session_.AddVariable(name, kUnknownByte);
     ReplaceSelected(name, kUnknownByte);
   }
   session_.FileChanged = true;

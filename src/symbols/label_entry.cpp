@@ -45,12 +45,7 @@ void LabelEntry::LabelAcceptButton_Click() {
 }
 
 void LabelEntry::WriteOperand(const std::string& label, const std::string& equivalent) {
-  Grid& table = session_.Table1;
-  const int row = session_.CurrentRow;
-  table.SetTextMatrix(row, kMnemonicColumn, table.TextMatrix(row, kMnemonicColumn) + "  " + label);
-  session_.StringTable.SetTextMatrix(row, 0, label);
-  table.SetTextMatrix(row, kOpcodeColumn,
-                      table.TextMatrix(row, kOpcodeColumn) + LabelBytes(equivalent));
+  line_.AddOperand("  ", label, LabelBytes(equivalent));
 }
 
 }  // namespace quilla

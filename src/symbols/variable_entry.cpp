@@ -54,8 +54,7 @@ void VariableEntry::XXAcceptButton_Click() {
         box_.name.AskAgain();
         return;
       }
-      session_.XXEqtList.Add(kUnknownByte);
-      session_.XXCombo.Add(variable);
+      session_.AddVariable(variable, kUnknownByte);
       WriteOperand(variable, kUnknownByte);
     }
   }
@@ -65,14 +64,8 @@ void VariableEntry::XXAcceptButton_Click() {
 }
 
 void VariableEntry::WriteOperand(const std::string& variable, const std::string& equivalent) {
-  Grid& table = session_.Table1;
-  const int row = session_.CurrentRow;
-  table.SetTextMatrix(row, kMnemonicColumn,
-                      table.TextMatrix(row, kMnemonicColumn) + "   " + variable);
-  session_.StringTable.SetTextMatrix(row, 0, variable);
-  table.SetTextMatrix(row, kOpcodeColumn,
-                      table.TextMatrix(row, kOpcodeColumn) +
-                          VariableBytes(std::string_view(equivalent).substr(0, kByteDigits)));
+  line_.AddOperand("   ", variable,
+                   VariableBytes(std::string_view(equivalent).substr(0, kByteDigits)));
 }
 
 }  // namespace quilla

@@ -1,4 +1,5 @@
 // The interrupt lines and the ports are displays that the program writes to: no interrupt is taken.
+#include "program/vocabulary.h"
 #include "simulator/instructions.h"
 
 namespace quilla::instruction {

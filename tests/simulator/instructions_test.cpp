@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "program/vocabulary.h"
 #include "simulator/lab.h"
 
 namespace quilla {

@@ -1,18 +1,23 @@
 #include "scenario.h"
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <random>
+#include <set>
 #include <sstream>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace quilla::robot {
 namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view kTitleMark = "== ";
 constexpr std::string_view kScriptMark = "> ";
+constexpr const char* kStart = "open OpenForm\nclosed OpenForm\n";
 constexpr std::string_view kScenarioEnding = ".robot";
 constexpr std::size_t kContextLines = 6;
 
@@ -21,6 +26,12 @@ std::vector<std::string> LinesOf(const std::string& text) {
   std::istringstream stream(text);
   for (std::string line; std::getline(stream, line);) lines.push_back(line);
   return lines;
+}
+
+std::string NameOf(std::string name) {
+  std::ranges::replace_if(
+      name, [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+  return name;
 }
 
 /// A folder of its own for this object, under a name that nobody else has.
@@ -35,24 +46,36 @@ fs::path NewFolder() {
 
 }  // namespace
 
-Scenario ReadScenario(const fs::path& path) {
-  Scenario scenario;
+std::vector<Scenario> ReadScenarios(const fs::path& path) {
+  std::vector<Scenario> scenarios;
+  std::string title;
   std::ifstream file(path);
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line.front() == '#') continue;
+    if (line.starts_with(kTitleMark)) {
+      title = '_' + line.substr(kTitleMark.size());
+      continue;
+    }
+    if (scenarios.empty() || !title.empty()) {
+      scenarios.push_back({NameOf(path.stem().string() + std::exchange(title, {})), {}, kStart});
+    }
+    Scenario& scenario = scenarios.back();
     if (line.starts_with(kScriptMark)) scenario.script += line.substr(kScriptMark.size()) + '\n';
     scenario.transcript += line + '\n';
   }
-  return scenario;
+  return scenarios;
 }
 
-std::vector<fs::path> ScenariosIn(const fs::path& folder) {
-  std::vector<fs::path> paths;
+std::vector<Scenario> ScenariosIn(const fs::path& folder) {
+  std::set<fs::path> paths;
   for (const auto& entry : fs::directory_iterator(folder)) {
-    if (entry.path().extension() == kScenarioEnding) paths.push_back(entry.path());
+    if (entry.path().extension() == kScenarioEnding) paths.insert(entry.path());
   }
-  std::sort(paths.begin(), paths.end());
-  return paths;
+  std::vector<Scenario> scenarios;
+  for (const fs::path& path : paths) {
+    for (Scenario& scenario : ReadScenarios(path)) scenarios.push_back(std::move(scenario));
+  }
+  return scenarios;
 }
 
 std::string FirstDifference(const std::string& expected, const std::string& actual) {

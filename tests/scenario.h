@@ -1,5 +1,5 @@
-// Scenario files: a script and its transcript in one, so that all lines together are what must
-// come out.
+// Scenario files: scripts and their transcripts in one, so that all lines together are what must
+// come out. A line "== title" begins a scenario, in a program that has just started.
 #ifndef QUILLA_TESTS_SCENARIO_H_
 #define QUILLA_TESTS_SCENARIO_H_
 
@@ -10,16 +10,18 @@
 namespace quilla::robot {
 
 struct Scenario {
+  /// The file and the title, each character that is no letter or digit an underscore.
+  std::string name;
   /// The script: the lines that begin with "> ", without that mark.
   std::string script;
-  /// The transcript: all lines but empty ones and comments.
+  /// The transcript: the windows of the start, then all lines but empty ones and comments.
   std::string transcript;
 };
 
-Scenario ReadScenario(const std::filesystem::path& path);
-
-/// All scenario files of a folder, in order of their names.
-std::vector<std::filesystem::path> ScenariosIn(const std::filesystem::path& folder);
+/// The scenarios of a file, in order. What stands over the first title is the first of them.
+std::vector<Scenario> ReadScenarios(const std::filesystem::path& path);
+/// The scenarios of all files of a folder, in order of their names.
+std::vector<Scenario> ScenariosIn(const std::filesystem::path& folder);
 
 /// Shows the first line where two transcripts differ, with the lines before it; empty if they are
 /// equal.

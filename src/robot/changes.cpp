@@ -1,5 +1,8 @@
 #include "robot/changes.h"
 
+#include <algorithm>
+#include <set>
+#include <sstream>
 #include <utility>
 
 #include "platform/button.h"
@@ -82,6 +85,31 @@ struct Changes::News {
                std::get<1>(*name) == own_name);
       line.Add(text);
     }
+  }
+
+  /// The name of a menu in the place of its entries, where all of them are alike now.
+  static void JoinMenus(std::vector<Name>& names, const std::map<Name, Control*>& controls) {
+    std::map<const Control*, std::set<Name>> entries;
+    for (const auto& [name, control] : controls) {
+      const auto* const entry = dynamic_cast<const MenuEntry*>(control);
+      if (entry == nullptr || !entry->visible() || entry->is_separator()) continue;
+      if (dynamic_cast<const MenuEntry*>(entry->container()) != nullptr) {
+        entries[entry->container()].insert(name);
+      }
+    }
+    for (const auto& [menu, inside] : entries) {
+      const bool enabled = controls.at(*inside.begin())->enabled();
+      const auto is_alike = [&](const Name& name) {
+        return controls.at(name)->enabled() == enabled;
+      };
+      const auto is_inside = [&](const Name& name) { return inside.contains(name); };
+      if (!std::ranges::all_of(inside, is_alike) || std::ranges::count_if(names, is_inside) < 2) {
+        continue;
+      }
+      std::erase_if(names, is_inside);
+      names.emplace_back(std::string(), menu->name() + "/*", Control::kNoIndex);
+    }
+    std::ranges::sort(names);
   }
 
   void Print(std::ostream& transcript) const {
@@ -193,16 +221,20 @@ void Changes::Print(std::ostream& transcript) {
   for (const auto& [name, control] : controls) {
     if (StandsInSight(*control)) news.Compare(name, looks_[name], LookOf(*control));
   }
-  news.Print(transcript);
-  WrappedLine focus(transcript, "focus:");
+  for (auto* const names : {&news.enabled, &news.disabled}) News::JoinMenus(*names, controls);
+  std::ostringstream lines;
+  news.Print(lines);
+  WrappedLine focus(lines, "focus:");
   for (const Form* const form : forms) {
     Add(focus, focus_[form], *form, form->focused());
   }
   focus.End();
-  WrappedLine default_button(transcript, "default:");
+  WrappedLine default_button(lines, "default:");
   for (const Form* const form : forms) {
     Add(default_button, default_[form], *form, form->default_button());
   }
+  default_button.End();
+  transcript << Joined(lines.str());
 }
 
 void Changes::Add(WrappedLine& line, std::string& before, const Form& form,
@@ -216,7 +248,18 @@ void Changes::Add(WrappedLine& line, std::string& before, const Form& form,
 
 void Changes::PrintVariables(std::ostream& transcript) {
   WrappedLine line(transcript, "session:");
-  for (const auto& [name, value] : VariablesOf(quilla_.panel()->session())) {
+  const Session& session = quilla_.panel()->session();
+  // A selection of one row is told as one.
+  const std::string top = std::to_string(session.SelectionTop);
+  const bool is_one_row = session.SelectionTop == session.SelectionBottom;
+  std::string& top_before = variables_["SelectionTop"];
+  std::string& bottom_before = variables_["SelectionBottom"];
+  if (is_one_row && (top_before != top || bottom_before != top)) {
+    line.Add("Selection=" + top);
+    top_before = top;
+    bottom_before = top;
+  }
+  for (const auto& [name, value] : VariablesOf(session)) {
     if (variables_[name] == value) continue;
     line.Add(std::string(name).append("=").append(value));
     variables_[name] = value;
@@ -241,11 +284,15 @@ void Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control
       if (IsTold(*list)) compare(name, *list);
     }
   }
-  for (const Table& table : changed) table.before->PrintTexts(transcript, table.name, table.now);
+  std::ostringstream lists;
+  std::ostringstream rows;
+  std::ostringstream colors;
   for (Table& table : changed) {
-    table.before->PrintColors(transcript, table.name + " colors", table.now);
+    table.before->PrintTexts(table.now.Columns() == 1 ? lists : rows, table.name, table.now);
+    table.before->PrintColors(colors, table.name + " colors", table.now);
     *table.before = std::move(table.now);
   }
+  transcript << Joined(lists.str()) << Joined(rows.str()) << Joined(colors.str());
 }
 
 }  // namespace quilla::robot

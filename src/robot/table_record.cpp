@@ -164,7 +164,9 @@ void TableRecord::PrintTexts(std::ostream& transcript, const std::string& name,
     }
   }
   WrappedLine line(transcript, name);
-  if (shift.more != 0) {
+  // New entries at the end of a list tell by themselves how many there are.
+  const bool is_longer = now.is_list_ && shift.more > 0 && shift.at == Rows();
+  if (shift.more != 0 && !is_longer) {
     const int count = std::abs(shift.more);
     const bool at_end = shift.at == std::min(Rows(), now.Rows());
     line.Add((now.is_list_ ? "count=" : "rows=") + std::to_string(now.Rows()) +

@@ -21,6 +21,7 @@ class TableRecord {
   explicit TableRecord(const TextList& list);
 
   int Rows() const { return static_cast<int>(cells_.size() / columns_); }
+  int Columns() const { return static_cast<int>(columns_); }
   /// Whether nothing is different now.
   bool Matches(const Grid& grid) const;
   bool Matches(const TextList& list) const;

@@ -29,6 +29,10 @@ class WrappedLine {
   std::size_t width_ = 0;  // of the line so far; 0 before the first piece
 };
 
+/// Lines with those that are short side by side, a bar between them in the place of a first word
+/// that they share.
+std::string Joined(const std::string& lines);
+
 /// "3", or "3..7" for more than one.
 std::string RangeText(int first, int last);
 

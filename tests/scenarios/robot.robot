@@ -1,116 +1,59 @@
-# What the robot refuses, in the order in which it looks.
-open OpenForm
-closed OpenForm
-> show REG 0
-REG 0 caption="B" enabled=1 visible=0
-> click REG 0
+== refusals
+# What is refused, in the order in which the robot looks.
+> click REG 0 ; click INST 1 ; click REG 8 ; click INST 0 ; cell Table1 0 5 ; cell Table1 32 0
 refused REG hidden
-> show XXAcceptButton
-XXAcceptButton caption="Accept" enabled=1 visible=0
-> click XXAcceptButton
-refused XXAcceptButton hidden
-> click INST 1
-> click REG 8
 refused REG disabled
-> click INST 0
 refused INST hidden
-> cell Table1 0 5
 refused Table1 outside
-> cell Table1 32 0
 refused Table1 outside
-> drag Table1 1 2 99999999999 2
+> drag Table1 1 2 99999999999 2 ; hover Table1 -1 0 ; click AssembleFile ; close OpenForm
 refused Table1 outside
-> hover Table1 -1 0
 refused Table1 outside
-> click AssembleFile
 refused AssembleFile disabled
-> close OpenForm
 refused OpenForm hidden
-> press REG 9
+> press REG 9 ; release INST 4 ; hover REG 9 ; show REG 0 ; show OpenForm.VersionLabel
 refused REG disabled
-> release INST 4
 refused INST hidden
-> hover REG 9
 refused REG disabled
+REG 0 caption="B" enabled=1 visible=1
 # The rest of a text is dropped where a key or a character finds no one to take it.
-> key RegisterBox "xbc"
+> key RegisterBox "xbc" ; type LabelText name ; type XXText "a long name" ; show XXText
 refused RegisterBox hidden
-> show LabelText
-LabelText text="" enabled=1 visible=0
-> type LabelText name
 refused LabelText hidden
-> type XXText "a long name"
-> show XXText
 XXText text="a long" enabled=1 visible=1
-> clear XXText
-> pick XXCombo 0
+> clear XXText ; pick XXCombo 0 ; click ExistingXXOption
 refused XXCombo disabled
-> click ExistingXXOption
 refused ExistingXXOption disabled
-# Enter and Esc press the buttons of the panel.
-> enter
+# Enter and Esc press the buttons of the panel. A list that the user may open.
+> enter ; type XXText "x" ; enter ; click INST 1 ; escape ; click REG 8 ; enter ; click INST 15
 refused XXAcceptButton disabled
-> type XXText "x"
-> enter
-> click INST 1
-> escape
-> click REG 8
 refused REG disabled
-> enter
 refused XXAcceptButton hidden
-> show TipsLabel
-TipsLabel caption="Program Mode." enabled=1 visible=1
-# A list that the user may open.
-> click INST 15
-> click ExistingXXOption
-> pick XXCombo 1
+> click ExistingXXOption ; pick XXCombo 1 ; pick XXCombo -1 ; pick XXCombo 0
 refused XXCombo outside
-> pick XXCombo -1
 refused XXCombo outside
-> pick XXCombo 0
-> show XXCombo
+> show XXCombo ; show ExistingXXOption ; show EntryMode ; show Table1 ; show HexList
 XXCombo text="x" index=0 count=1 enabled=1 visible=1
-> show ExistingXXOption
 ExistingXXOption checked=1 enabled=1 visible=1
-> show NewXXOption
-NewXXOption checked=0 enabled=1 visible=1
-> show XXBox
-XXBox enabled=1 visible=1
-> show EntryMode
 EntryMode caption="Data &Mode" enabled=0 visible=1
-> show Table1
 Table1 enabled=1 visible=1
-> show HexList
 HexList enabled=1 visible=0
-> escape
-# Names with their window, and windows that are not open.
-> show ProgrammingPanel.TipsLabel
+# Names with their window, and windows that are not open; rows and entries, as many as there are.
+> escape ; show ProgrammingPanel.TipsLabel ; hover OpenForm ; click OpenForm.VersionLabel
 ProgrammingPanel.TipsLabel caption="Program Mode." enabled=1 visible=1
-> show OpenForm.VersionLabel
-> hover ProgrammingPanel
-> hover OpenForm
 refused OpenForm hidden
-> click OpenForm.VersionLabel
 refused OpenForm.VersionLabel hidden
-# Rows and entries, as many as there are.
-> dump Table1 1 1
-Table1 1 "" "" "MVI  B,   x" "06   XX" "Move the equivalent of 'x' into B-register."
-> dump ProgrammingPanel.Table1 30 99
-> dump Table1 -5 0
+> dump ProgrammingPanel.Table1 30 99 ; dump Table1 -5 0 ; dump Table1 1 0 ; list XXCombo
 Table1 0 "Origin" "8000" "" "" ""
-> dump Table1 1 0
-> list XXCombo
 XXCombo 0 "x"
-> list LabelCombo
+> list LabelCombo ; colors Table1 ; state
 LabelCombo empty
-# Clicks and drags in the table.
-> cell Table1 0 0
-> key NumberAcceptButton "9g000"
-> show NumberLabel
-NumberLabel caption="9000" enabled=1 visible=1
-> escape
-> drag Table1 3 2 1 2
-> state
+Table1 0 0 back=E0E0E0 fore=-
+Table1 0 1 back=E0E0E0 fore=-
+Table1 0 2 back=E0E0E0 fore=-
+Table1 0 3 back=E0E0E0 fore=-
+Table1 0 4 back=E0E0E0 fore=-
+Table1 2 2 back=cursor fore=cursor
 PanelState 1
 CurrentRow 2
 LastLine 1
@@ -118,8 +61,8 @@ Rows 32
 FileOrigin 1
 FileChanged 1
 EntryPending 0
-SelectionTop 1
-SelectionBottom 3
+SelectionTop 2
+SelectionBottom 2
 PortOpen 0
 AddressError 0
 FileName "Pgm1.baf"
@@ -129,25 +72,65 @@ TipsLabel "Program Mode."
 Title "Brelvanor Quilla - Pgm1.baf"
 MessageResult ""
 Boxes InstructionBox
-> click WriteModeLabel
-> hover Table1 0 2
-> hover INST 0
-> show InstructionLabel 0
-InstructionLabel 0 caption="MOV" enabled=1 visible=1
-> colors Table1
-Table1 0 0 back=E0E0E0 fore=-
-Table1 0 1 back=E0E0E0 fore=-
-Table1 0 2 back=E0E0E0 fore=-
-Table1 0 3 back=E0E0E0 fore=-
-Table1 0 4 back=E0E0E0 fore=-
-Table1 2 2 back=cursor fore=cursor
 # A box with a choice and no answer is cancelled; the panel closes by its frame.
-> close ProgrammingPanel
+> close ProgrammingPanel ; answer yes ; close ProgrammingPanel ; answer ok ; close ProgrammingPanel
 box question "Are you sure you want to quit? You will lose unsaved information." okcancel -> cancel
-> answer yes
-> close ProgrammingPanel
 box question "Are you sure you want to quit? You will lose unsaved information." okcancel -> cancel
-> answer ok
-> close ProgrammingPanel
 box question "Are you sure you want to quit? You will lose unsaved information." okcancel -> ok
 ended
+== rows and changes
+# Nothing differs at the start, nor right after the differences are told. Whole rows by their keys.
+> changes
+> row "MOV  A , M" "MVI M,x" "LXI SP,p" "LXI B , p" "RST 7" "PUSH PSW" "STAX D" "IN x" RNC ; changes
+session: Selection=10 CurrentRow=10 LastLine=9 FileChanged=1 SelectedInstruction=64
+    CurrentOpcode=208
+LabelCombo 0="p" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
+LabelUsedList 0="1" | StringTable 2="x" 3..4="p" 8="x" | XXCombo 0="x" | XXEqtList 0="XX"
+Table1 1 - - "MOV  A,  M" "7E"
+    "Move content of address pointed by HL-register pair into Accumulator."
+Table1 2 - - "MVI  M,   x" "36   XX"
+    "Move the equivalent of 'x' into address pointed by HL-register pair."
+Table1 3 - - "LXI  SP,  p" "31   XX   XX" "Load the equivalent of 'p' into stack pointer."
+Table1 4 - - "LXI  B,  p" "01   XX   XX" "Load the equivalent of 'p' into BC-register pair."
+Table1 5 - - "RST 7" "FF" "Restart#7 (Call sub-routine at address 0038H)."
+Table1 6 - - "PUSH  PSW" "F5" "Store content of Accumulator and flag register in top of stack."
+Table1 7 - - "STAX  D" "12" "Store content of Accumulator in address pointed by DE-register pair."
+Table1 8 - - "IN   x" "DB   XX"
+    "Receive content from port address pointed by 'x' and store in Accumulator."
+Table1 9 - - "RNC" "D0" "Return on no carry."
+Table1 colors 1,2=own 10,2=cursor
+caption: TipsLabel="Program Mode."
+> changes
+# A refusal is that of the press, and ends the row; what a hidden box holds waits until it is seen.
+> row "ADI Big" NOP ; changes
+refused XXAcceptButton disabled
+session: PanelState=2 EntryPending=1 SelectedInstruction=15 CurrentOpcode=198
+Table1 10 - - "ADI" "C6"
+caption: TipsLabel="Enter 8-bit number and click 'Accept'." | text: XXCombo="x" XXText="Big"
+shown: XXBox | hidden: InstructionBox XXDoneButton XXFindButton XXReplaceButton
+disabled: EditMenu/* FileMenu/* ToolsMenu/* XXAcceptButton XXCombo | checked: NewXXOption
+focus: XXText | default: XXAcceptButton
+> escape ; row "JMP x" NOP ; changes
+box critical "String already used as Label or Variable. Please enter another label." ok -> ok
+refused INST hidden
+session: PanelState=4 SelectedInstruction=37 CurrentOpcode=195 MessageResult="1"
+Table1 10 - - "JMP" "C3"
+caption: TipsLabel="Enter Label and click 'Accept'." | text: LabelCombo="p" | shown: LabelBox
+hidden: XXBox | disabled: LabelAcceptButton LabelCombo | checked: NewLabelOption | focus: LabelText
+default: LabelAcceptButton
+> escape ; row "JMP p" ; click PlaceLabelTool ; type PlaceText ";" ; changes
+session: Selection=11 PanelState=16 CurrentRow=11 EntryPending=0
+PlaceCombo 0="p" | StringTable 10="p"
+Table1 10 - - "JMP  p" "C3   XX   XX" "Jump to address pointed by 'p'."
+Table1 colors 10,2=own 11,2=cursor
+caption: TipsLabel="Select Row, Enter Label and Click 'Place'; or Click 'Cancel'."
+text: PlaceCombo="p" PlaceText=";" | shown: PlaceBox | hidden: LabelBox
+disabled: PlaceAcceptButton PlaceCombo | checked: NewPlaceOption | focus: PlaceText
+# A dialog that waits takes the rest of the line.
+> click PlaceDoneButton ; click EqtOption ; row NOP ; escape ; click RenumberDialog.DoneButton ; changes
+open RenumberDialog
+refused INST modal
+closed RenumberDialog
+session: PanelState=1
+caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: PlaceBox
+enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*

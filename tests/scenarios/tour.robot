@@ -7,257 +7,118 @@
 #   stop   C3 08 80   JMP stop
 # Eleven bytes, 0Bh: the record is ":0B" "8000" "00", the bytes, and the checksum.
 # picture 01-new-file
-open OpenForm
-closed OpenForm
-> state
-PanelState 1
-CurrentRow 1
-LastLine 1
-Rows 32
-FileOrigin 1
-FileChanged 0
-EntryPending 0
-SelectionTop 1
-SelectionBottom 1
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "New File."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult ""
-Boxes InstructionBox
-> click INST 1
+> changes
 # picture 02-register
-> state
-PanelState 14
-CurrentRow 1
-LastLine 1
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 1
-SelectionTop 1
-SelectionBottom 1
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Select Register or Memory."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult ""
-Boxes RegisterBox
-> click REG 7
+> click INST 1 ; changes
+session: PanelState=14 FileChanged=1 EntryPending=1 SelectedInstruction=1 CurrentOpcode=6
+Table1 1 - - "MVI"
+caption: TipsLabel="Select Register or Memory." | shown: RegisterBox | hidden: InstructionBox
+disabled: EditMenu/* FileMenu/* REG 8..9 ToolsMenu/* | focus: RegisterBox
 # picture 03-variable
-> state
-PanelState 15
-CurrentRow 1
-LastLine 1
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 1
-SelectionTop 1
-SelectionBottom 1
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Enter 8-bit number and click 'Accept'."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult ""
-Boxes XXBox
-> type XXText first
-> enter
-> click INST 1
-> click REG 0
-> type XXText second
-> enter
-> click INST 10
-> click REG 0
-> click INST 6
-> type LabelText sum
-> enter
-> click INST 37
+> click REG 7 ; changes
+session: PanelState=15 CurrentOpcode=62
+Table1 1 - - "MVI  A," "3E"
+caption: TipsLabel="Enter 8-bit number and click 'Accept'." | shown: XXBox
+hidden: RegisterBox XXDoneButton XXFindButton XXReplaceButton
+disabled: ExistingXXOption XXAcceptButton XXCombo | checked: NewXXOption | focus: XXText
+default: XXAcceptButton
 # picture 04-label
-> type LabelText stop
-> state
-PanelState 4
-CurrentRow 5
-LastLine 4
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 1
-SelectionTop 5
-SelectionBottom 5
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Enter Label and click 'Accept'."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult ""
-Boxes LabelBox
-> enter
+> type XXText first ; enter ; row "MVI B,second" "ADD B" "STA sum" ; click INST 37
+> type LabelText stop ; changes
+session: Selection=5 PanelState=4 CurrentRow=5 LastLine=4 SelectedInstruction=37 CurrentOpcode=195
+LabelCombo 0="sum" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
+LabelUsedList 0="1" | StringTable 1="first" 2="second" 4="sum" | XXCombo 0="first" 1="second"
+XXEqtList 0..1="XX"
+Table1 1 - - "MVI  A,   first" "3E   XX" "Move the equivalent of 'first' into Accumulator."
+Table1 2 - - "MVI  B,   second" "06   XX" "Move the equivalent of 'second' into B-register."
+Table1 3 - - "ADD  B" "80" "Add content of B-register to content of Accumulator."
+Table1 4 - - "STA  sum" "32   XX   XX" "Store content of Accumulator in address pointed by 'sum'."
+Table1 5 - - "JMP" "C3"
+Table1 colors 1,2=own 5,2=cursor
+caption: TipsLabel="Enter Label and click 'Accept'." | text: LabelCombo="sum" LabelText="stop"
+shown: LabelBox | hidden: XXBox | disabled: LabelCombo | checked: NewLabelOption | focus: LabelText
+default: LabelAcceptButton
 # The label stands on the jump itself.
-> click PlaceLabelTool
-> cell Table1 5 0
-> click ExistingPlaceOption
-> pick PlaceCombo 1
 # picture 05-place-label
-> state
-PanelState 17
-CurrentRow 6
-LastLine 5
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 0
-SelectionTop 6
-SelectionBottom 6
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Select Row, Enter Label and Click 'Place'; or Click 'Cancel'."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult ""
-Boxes PlaceBox
-> enter
-> click PlaceDoneButton
+> enter ; click PlaceLabelTool ; cell Table1 5 0 ; click ExistingPlaceOption
+> pick PlaceCombo 1 ; changes
+session: Selection=6 PanelState=17 CurrentRow=6 LastLine=5 EntryPending=0 ClickedRow=5
+LabelCombo 1="stop" | LabelEqtList 1="XXXX" | LabelLineList 1="0" | LabelPlacedList 1="0"
+LabelUsedList 1="1" | PlaceCombo 0="sum" 1="stop" | StringTable 5="stop"
+Table1 5 - - "JMP  stop" "C3   XX   XX" "Jump to address pointed by 'stop'."
+Table1 colors 5,0=00FF00 5,2=own 6,2=cursor
+caption: TipsLabel="Select Row, Enter Label and Click 'Place'; or Click 'Cancel'."
+text: PlaceCombo="stop" | shown: PlaceBox | hidden: LabelBox | disabled: PlaceText
+checked: ExistingPlaceOption | focus: PlaceCombo | default: PlaceAcceptButton
 # The numbers behind the names.
-> click EqtOption
-open RenumberDialog
-> cell RenumberDialog.LabelTable 1 0
-> key RenumberDialog.EqtAcceptButton 8050
 # picture 06-equivalents
-> state
-PanelState 1
-CurrentRow 6
-LastLine 5
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 0
-SelectionTop 6
-SelectionBottom 6
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Program Mode."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult ""
-Boxes InstructionBox
-> enter
-> click RenumberDialog.VariablesOption
-> cell RenumberDialog.VariableTable 1 0
-> key RenumberDialog.XXAcceptButton 05
-> enter
-> cell RenumberDialog.VariableTable 2 0
-> key RenumberDialog.XXAcceptButton 07
-> enter
-> click RenumberDialog.DoneButton
+> enter ; click PlaceDoneButton ; click EqtOption ; cell RenumberDialog.LabelTable 1 0
+open RenumberDialog
+> key RenumberDialog.EqtAcceptButton 8050 ; changes
+session: PanelState=1
+LabelLineList 1="5" | LabelPlacedList 1="1"
+Table1 5 "stop" | RenumberDialog.LabelTable rows=3 | 0 "Label" "Current" "New"
+RenumberDialog.LabelTable 1 "sum" "XXXX" "XXXX" | 2 "stop" "XXXX" "XXXX"
+RenumberDialog.VariableTable rows=3 | 0 "Label" "Current" "New" | 1 "first" "XX" "XX"
+RenumberDialog.VariableTable 2 "second" "XX" "XX"
+Table1 colors 5,0=own
+caption: TipsLabel="Program Mode." RenumberDialog.EqtLabel="8050" RenumberDialog.LabelLabel="sum"
+shown: InstructionBox | hidden: PlaceBox RenumberDialog.VariableFrame
+enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
+checked: RenumberDialog.LabelsOption | focus: RenumberDialog.EqtAcceptButton
+default: RenumberDialog.EqtAcceptButton
+> enter ; click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
+> key RenumberDialog.XXAcceptButton 05 ; enter ; cell RenumberDialog.VariableTable 2 0
+> key RenumberDialog.XXAcceptButton 07 ; enter ; click RenumberDialog.DoneButton
 closed RenumberDialog
-> path adder.hex
-> click AssembleFile
+# picture 07-assembled
+> path adder.hex ; click AssembleFile ; settle ; changes
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"
-> settle
-# picture 07-assembled
-> state
-PanelState 1
-CurrentRow 6
-LastLine 5
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 0
-SelectionTop 6
-SelectionBottom 6
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Program Mode."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult "1"
-Boxes InstructionBox
-> dump Table1 0 5
-Table1 0 "Origin" "8000" "" "" ""
-Table1 1 "" "8000" "MVI  A,   first" "3E   05" "Move the equivalent of 'first' into Accumulator."
-Table1 2 "" "8002" "MVI  B,   second" "06   07" "Move the equivalent of 'second' into B-register."
-Table1 3 "" "8004" "ADD  B" "80" "Add content of B-register to content of Accumulator."
-Table1 4 "" "8005" "STA  sum" "32   50   80" "Store content of Accumulator in address pointed by 'sum'."
-Table1 5 "stop" "8008" "JMP  stop" "C3   08   80" "Jump to address pointed by 'stop'."
-> list HexList
-HexList 0 ":0B8000003E05060780325080C3088058"
-HexList 1 ":00000001FF"
+session: HexPath="adder.hex" MessageResult="1"
+HexList 0=":0B8000003E05060780325080C3088058" 1=":00000001FF" | LabelEqtList 0="8050" 1="8008"
+LastAddressList 0="800A" | XXEqtList 0="05" 1="07"
+Table1 1 - "8000" - "3E   05" | 2 - "8002" - "06   07" | 3 - "8004" | 4 - "8005" - "32   50   80"
+Table1 5 - "8008" - "C3   08   80" | TempTable rows=32 | 0 "8000" - - "Origin" | 1 "3E" "05"
+TempTable 2 "06" "07" | 3 "80" | 4 "32" "50" "80" | 5 "C3" "08" "80"
 # The places that a label could be replaced in, one of them selected.
-> click ReplaceLabel
-> cell Table1 5 2
 # picture 08-replace
-> state
-PanelState 24
-CurrentRow 6
-LastLine 5
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 0
-SelectionTop 6
-SelectionBottom 6
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult "1"
-Boxes ReplaceBox
-> escape
+> click ReplaceLabel ; cell Table1 5 2 ; changes
+session: PanelState=24 SelectionAnchor=5
+ReplaceCombo 0="sum" 1="stop"
+Table1 colors 4,2=0000FF/FFFFFF 5,0=0000FF/FFFFFF 5,2=00FF00/000000
+caption: TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
+text: ReplaceCombo="sum" | shown: ReplaceBox | hidden: InstructionBox
+disabled: EditMenu/* FileMenu/* ReplaceCombo ToolsMenu/* | checked: NewReplaceOption
 # The program in the simulator, three instructions on.
-> click SimulationView
-> settle
-open WatchWindowDialog
-> key WatchWindowDialog.AcceptButton 8000
-> click WatchWindowDialog.AcceptButton
-> click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton
 # picture 09-simulator
-> state
-PanelState 1
-CurrentRow 6
-LastLine 5
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 0
-SelectionTop 6
-SelectionBottom 6
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Preparing for simulation..."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult "1"
-Boxes InstructionBox
-> dump WatchWindowDialog.RegisterTable 1 2
-WatchWindowDialog.RegisterTable 1 "A" "0C"
-WatchWindowDialog.RegisterTable 2 "B" "07"
-> dump WatchWindowDialog.InstructionTable 1
-WatchWindowDialog.InstructionTable 1 "" "8005" "STA   8050h" "32   50   80"
+> escape ; click SimulationView ; settle ; key WatchWindowDialog.AcceptButton 8000
+open WatchWindowDialog
+> click WatchWindowDialog.AcceptButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+session: PanelState=1
+WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode"
+WatchWindowDialog.InstructionTable 1 - "8005" "STA   8050h" "32   50   80"
+WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
+WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
+WatchWindowDialog.InterruptTable 7 - "1" | WatchWindowDialog.MemoryTable rows=65537
+WatchWindowDialog.MemoryTable 0 "Address" "Value" | 1..32768 "0000".."7FFF" "00" | 32769 "8000" "3E"
+WatchWindowDialog.MemoryTable 32770..32772 "8001".."8003" "05".."07" | 32773 "8004" "80"
+WatchWindowDialog.MemoryTable 32774 "8005" "32" | 32775 "8006" "50" | 32776 "8007" "80"
+WatchWindowDialog.MemoryTable 32777 "8008" "C3" | 32778 "8009" "08" | 32779 "800A" "80"
+WatchWindowDialog.MemoryTable 32780..65536 "800B".."FFFF" "00"
+WatchWindowDialog.PortTable rows=257 | 0 "Address" "Value" | 1..256 "00".."FF" "00"
+WatchWindowDialog.RegisterTable rows=20 | 0 "Registers" "Value" | 1 "A" "0C" | 2 "B" "07"
+WatchWindowDialog.RegisterTable 3 "C" "00" | 4 "BC" "0700" | 5 "D" "00" | 6 "E" "00" | 7 "DE" "0000"
+WatchWindowDialog.RegisterTable 8 "H" "00" | 9 "L" "00" | 10 "HL" "0000" | 11 "M(0000)" "00"
+WatchWindowDialog.RegisterTable 12 "SP" "FF00" | 13 "PC" "8005" | 14 "Zero" "0" | 15 "Sign" "0"
+WatchWindowDialog.RegisterTable 16 "Parity" "1" | 17 "Carry" "0" | 18 "Aux. Carry" "0"
+Table1 colors 4,2=own 5,0=own 5,2=own
+WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
+caption: TipsLabel="Preparing for simulation..." WatchWindowDialog.AddrLbl="8000"
+text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00" | shown: InstructionBox
+hidden: ReplaceBox
+enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
+focus: WatchWindowDialog.AcceptButton
 > close WatchWindowDialog
 closed WatchWindowDialog

@@ -133,4 +133,15 @@ std::string Rules::BrokenLabelList() const {
   return {};
 }
 
+std::string Rules::BrokenPaste() const {
+  if (session_.TipsLabel.caption() != "Completed pasting.") return {};
+  for (int row = 0; row < session_.EditTable.Rows(); ++row) {
+    const std::string& name = session_.EditStringTable[row];
+    const bool variable = HasVariable(session_.EditTable.TextMatrix(row, kOpcodeColumn));
+    const TextList& names = variable ? session_.XXCombo : session_.LabelCombo;
+    if (!name.empty() && names.Find(name) < 0) return "the pasted '" + name + "' is not listed";
+  }
+  return BrokenLabelList();
+}
+
 }  // namespace quilla::walk

@@ -19,6 +19,8 @@ class Rules {
   /// The same for what the lists say of labels. It holds where they have just been brought up to
   /// date, as at the start of the place tool.
   std::string BrokenLabelList() const;
+  /// The same for the strings of the clipboard, where it has just been pasted.
+  std::string BrokenPaste() const;
 
  private:
   std::string StrayBox() const;

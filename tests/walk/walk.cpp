@@ -7,6 +7,7 @@
 #include <ostream>
 #include <sstream>
 #include <streambuf>
+#include <utility>
 
 #include "robot/robot.h"
 #include "scenario.h"
@@ -34,10 +35,11 @@ std::string walk_under_way;
 /// A script as a stream: each line is made when the player asks for it.
 class Walk : private std::streambuf {
  public:
-  explicit Walk(unsigned seed)
+  Walk(unsigned seed, const robot::HandsFactory& make_hands, std::function<std::string()> broken)
       : script_(this),
         nowhere_(nullptr),
-        robot_(script_, nowhere_, errors_),
+        broken_(std::move(broken)),
+        robot_(script_, nowhere_, errors_, make_hands),
         maker_(seed, robot_.quilla(), robot_.event_loop()),
         lines_left_(kShortestWalk + maker_.Below(kMoreLines)) {
     walk_under_way = "seed " + std::to_string(seed) + ":\n";
@@ -57,6 +59,8 @@ class Walk : private std::streambuf {
   int_type underflow() override {
     if (!rules_) rules_.emplace(session());
     if (fault_.empty()) fault_ = rules_->Broken();
+    if (fault_.empty()) fault_ = broken_();
+    if (fault_.empty() && line_ == "click PasteEdit\n") fault_ = rules_->BrokenPaste();
     line_ = fault_.empty() ? NextLine() : std::string();
     if (line_.empty()) return traits_type::eof();
     line_ += '\n';
@@ -74,6 +78,7 @@ class Walk : private std::streambuf {
   std::istream script_;
   std::ostream nowhere_;
   std::ostringstream errors_;
+  const std::function<std::string()> broken_;
   robot::Robot robot_;
   ScriptMaker maker_;
   std::optional<Rules> rules_;  // as soon as there is a panel
@@ -147,10 +152,11 @@ std::string Walk::AfterEscape() {
 
 }  // namespace
 
-std::string FaultOfWalk(unsigned seed) {
+std::string FaultOfWalk(unsigned seed, const robot::HandsFactory& make_hands,
+                        std::function<std::string()> broken) {
   const robot::ScratchFolder folder("no files");
   WriteFiles();
-  std::string fault = Walk(seed).Play();
+  std::string fault = Walk(seed, make_hands, std::move(broken)).Play();
   if (!fault.empty()) fault += " in " + walk_under_way;
   walk_under_way.clear();
   return fault;

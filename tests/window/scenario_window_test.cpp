@@ -2,8 +2,6 @@
 // the models, and whenever the state is printed the widgets show what the models hold.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <sstream>
 
@@ -30,30 +28,22 @@ class ComparingHands : public WidgetHands {
   }
 };
 
-class ScenarioWindowTest : public testing::TestWithParam<std::filesystem::path> {};
+class ScenarioWindowTest : public testing::TestWithParam<Scenario> {};
 
 TEST_P(ScenarioWindowTest, GivesItsTranscript) {
-  const Scenario scenario = ReadScenario(GetParam());
   const ScratchFolder folder(kScenarios / "files");
-  std::istringstream script(scenario.script);
+  std::istringstream script(GetParam().script);
   std::ostringstream transcript;
   std::ostringstream errors;
   Robot robot(script, transcript, errors, [](Quilla&, ScriptedEventLoop& event_loop) {
     return std::make_unique<ComparingHands>(event_loop);
   });
   EXPECT_EQ(robot.Play(), kPlayed) << errors.str();
-  EXPECT_EQ(FirstDifference(scenario.transcript, transcript.str()), "");
-}
-
-std::string TestName(const testing::TestParamInfo<std::filesystem::path>& scenario) {
-  std::string name = scenario.param.stem().string();
-  std::replace_if(
-      name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-  return name;
+  EXPECT_EQ(FirstDifference(GetParam().transcript, transcript.str()), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ScenarioWindowTest, testing::ValuesIn(ScenariosIn(kScenarios)),
-                         TestName);
+                         [](const auto& scenario) { return scenario.param.name; });
 
 }  // namespace
 }  // namespace quilla::robot

@@ -1,13 +1,15 @@
 // Plays a scenario on the real windows, on the display that is there, and leaves pictures of them
 // and the files that the scenario saves in a folder:
 //   quilla-tour SCENARIO FOLDER
-// A comment "# picture NAME" over a `state` line of the scenario names a picture to be taken there.
+// A comment "# picture NAME" names a picture to be taken at the next `state` or `changes`.
 #include <QApplication>
 #include <QTest>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <memory>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -25,7 +27,8 @@ namespace fs = std::filesystem;
 constexpr int kUsage = 2;
 constexpr int kPaintMs = 50;
 
-/// For each `state` line of a scenario the name of its picture; empty where none is wanted.
+/// For each `state` and `changes` of a scenario the name of its picture; empty where none is
+/// wanted.
 std::vector<std::string> PictureNames(const fs::path& scenario) {
   static const std::string kMark = "# picture ";
   std::vector<std::string> names;
@@ -33,7 +36,9 @@ std::vector<std::string> PictureNames(const fs::path& scenario) {
   std::ifstream file(scenario);
   for (std::string line; std::getline(file, line);) {
     if (line.starts_with(kMark)) name = line.substr(kMark.size());
-    if (line == "> state") names.push_back(std::exchange(name, {}));
+    static const std::regex kLook(R"((^> | ; )(state|changes)(?= ;|$))");
+    const auto looks = std::distance(std::sregex_iterator(line.begin(), line.end(), kLook), {});
+    for (auto look = looks; look > 0; --look) names.push_back(std::exchange(name, {}));
   }
   return names;
 }
@@ -69,7 +74,7 @@ class PicturingHands : public WidgetHands {
 };
 
 int Tour(const fs::path& scenario_path, const fs::path& folder) {
-  const Scenario scenario = ReadScenario(scenario_path);
+  const Scenario scenario = ReadScenarios(scenario_path).at(0);
   const auto names = PictureNames(scenario_path);
   fs::create_directories(folder);
   fs::current_path(folder);

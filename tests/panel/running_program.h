@@ -1,0 +1,81 @@
+// The program as it runs, with a world outside that answers as a test has queued.
+#ifndef QUILLA_TESTS_PANEL_RUNNING_PROGRAM_H_
+#define QUILLA_TESTS_PANEL_RUNNING_PROGRAM_H_
+
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "panel/quilla.h"
+#include "robot/scripted_outside.h"
+
+namespace quilla {
+
+class RunningProgram {
+ public:
+  RunningProgram() {
+    quilla_.Start();
+    outside_.clock.PassAll();
+    TakeBoxes();
+  }
+
+  Session& session() { return quilla_.panel()->session(); }
+  /// Chooses a menu entry, with a path for the file dialog if it shows one.
+  void Choose(MenuEntry& entry, const std::string& path = {}) {
+    if (!path.empty()) outside_.file_dialogs.Queue(path);
+    entry.Choose();
+    outside_.clock.PassAll();
+  }
+  void Open(const std::string& path) {
+    session().FileChanged = false;
+    Choose(session().menu.OpenFile, path);
+  }
+  void SaveAs(const std::string& path) { Choose(session().menu.SaveAsFile, path); }
+
+  /// The texts of the message boxes since the last call, a line each.
+  std::string TakeBoxes() {
+    std::istringstream lines(transcript_.str());
+    transcript_.str({});
+    std::string boxes;
+    for (std::string line; std::getline(lines, line);) {
+      if (line.starts_with("box ")) boxes += line.substr(line.find('"')) + '\n';
+    }
+    return boxes;
+  }
+
+  /// All that a project file keeps: rows of six texts, then the strings.
+  std::vector<std::vector<std::string>> Content() {
+    std::vector<std::vector<std::string>> content;
+    for (int row = 0; row < session().Table1.Rows(); ++row) {
+      auto& cells = content.emplace_back();
+      for (int column = 0; column < kProgramColumns; ++column) {
+        cells.push_back(session().Table1.TextMatrix(row, column));
+      }
+      cells.push_back(session().OperandOf(row));
+    }
+    for (const TextList* list : {static_cast<const TextList*>(&session().LabelCombo),
+                                 static_cast<const TextList*>(&session().LabelEqtList),
+                                 static_cast<const TextList*>(&session().XXCombo),
+                                 static_cast<const TextList*>(&session().XXEqtList)}) {
+      content.push_back(list->items());
+    }
+    return content;
+  }
+
+ private:
+  std::ostringstream transcript_;
+  robot::ScriptedOutside outside_{transcript_};
+  Quilla quilla_{outside_.ports};
+};
+
+inline std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace quilla
+
+#endif  // QUILLA_TESTS_PANEL_RUNNING_PROGRAM_H_

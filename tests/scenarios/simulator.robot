@@ -1,0 +1,227 @@
+== delay loop
+# Three turns and a halt. The window opens a moment after the click; the tip stays.
+> row "MVI B,count" "DCR B" "JNZ loop" HLT ; click PlaceLabelTool ; cell Table1 2 0
+> click ExistingPlaceOption ; click PlaceAcceptButton ; click PlaceDoneButton ; click EqtOption
+open RenumberDialog
+> click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
+> key RenumberDialog.XXAcceptButton 3 ; click RenumberDialog.XXAcceptButton
+> click RenumberDialog.DoneButton ; click SimulationView ; tick 9 ; changes
+closed RenumberDialog
+session: Selection=5 CurrentRow=5 LastLine=4 FileChanged=1 ClickedRow=2 SelectedInstruction=79
+    CurrentOpcode=118
+LabelCombo 0="loop" | LabelEqtList 0="8002" | LabelLineList 0="2" | LabelPlacedList 0="1"
+LabelUsedList 0="1" | LastAddressList 0="8006" | StringTable 1="count" 3="loop" | XXCombo 0="count"
+XXEqtList 0="03"
+Table1 1 - "8000" "MVI  B,   count" "06   03" "Move the equivalent of 'count' into B-register."
+Table1 2 "loop" "8002" "DCR  B" "05" "Decrement content of B-register."
+Table1 3 - "8003" "JNZ  loop" "C2   02   80" "Jump on no zero, to address pointed by 'loop'."
+Table1 4 - "8006" "HLT" "76" "Halt program execution."
+Table1 colors 1,2=own 5,2=cursor
+caption: TipsLabel="Program Mode."
+> tick 1 ; changes
+open WatchWindowDialog
+WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode"
+WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
+WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
+WatchWindowDialog.InterruptTable 7 - "1" | WatchWindowDialog.MemoryTable rows=65537
+WatchWindowDialog.MemoryTable 0 "Address" "Value" | 1..32768 "0000".."7FFF" "00" | 32769 "8000" "06"
+WatchWindowDialog.MemoryTable 32770 "8001" "03" | 32771 "8002" "05" | 32772 "8003" "C2"
+WatchWindowDialog.MemoryTable 32773 "8004" "02" | 32774 "8005" "80" | 32775 "8006" "76"
+WatchWindowDialog.MemoryTable 32776..65536 "8007".."FFFF" "00"
+WatchWindowDialog.PortTable rows=257 | 0 "Address" "Value" | 1..256 "00".."FF" "00"
+WatchWindowDialog.RegisterTable rows=20 | 0 "Registers" "Value" | 1 "A" "00" | 2 "B" "00"
+WatchWindowDialog.RegisterTable 3 "C" "00" | 4 "BC" "0000" | 5 "D" "00" | 6 "E" "00" | 7 "DE" "0000"
+WatchWindowDialog.RegisterTable 8 "H" "00" | 9 "L" "00" | 10 "HL" "0000" | 11 "M(0000)" "00"
+WatchWindowDialog.RegisterTable 12 "SP" "FF00" | 13 "PC" "0000" | 14 "Zero" "0" | 15 "Sign" "0"
+WatchWindowDialog.RegisterTable 16 "Parity" "0" | 17 "Carry" "0" | 18 "Aux. Carry" "0"
+WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
+caption: TipsLabel="Preparing for simulation..." WatchWindowDialog.AddrLbl="0000"
+text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00"
+focus: WatchWindowDialog.AcceptButton
+# Nothing is there to step before a starting address is given.
+> click WatchWindowDialog.ExecuteButton ; changes
+caption: WatchWindowDialog.StepNoteLabel="Enter a starting address and press OK."
+# The loop, step by step; PC shows the next instruction.
+> key WatchWindowDialog.AcceptButton 8000 ; click WatchWindowDialog.AcceptButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8000" "MVI  B,   03h" "06   03"
+WatchWindowDialog.RegisterTable 13 - "8000"
+caption: WatchWindowDialog.AddrLbl="8000" WatchWindowDialog.StepNoteLabel=""
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+WatchWindowDialog.RegisterTable 2 - "03" | 4 - "0300" | 13 - "8002"
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
+WatchWindowDialog.RegisterTable 2 - "02" | 4 - "0200" | 13 - "8003"
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+WatchWindowDialog.RegisterTable 13 - "8002"
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8006" "HLT" "76" | WatchWindowDialog.RegisterTable 2 - "00"
+WatchWindowDialog.RegisterTable 4 - "0000" | 13 - "8006" | 14 - "1" | 16 - "1"
+# The halt is told once, and nothing moves after it, a new starting address included.
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+box information "Program execution halted." ok -> ok
+session: MessageResult="1"
+> key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+WatchWindowDialog.RegisterTable 13 - "8002"
+caption: WatchWindowDialog.AddrLbl="8002"
+# Chosen again while it is open, the window keeps all but the cells of the program.
+> click SimulationView ; settle ; changes
+# Closed and opened again it starts afresh.
+> press WatchWindowDialog.IButton 1 ; pick WatchWindowDialog.ValueList 7
+> click WatchWindowDialog.ForceButton ; changes
+WatchWindowDialog.PortTable 1 - "07"
+caption: WatchWindowDialog.IButton 1="1" | text: WatchWindowDialog.ValueList="07"
+> close WatchWindowDialog ; click SimulationView ; settle ; changes
+closed WatchWindowDialog
+open WatchWindowDialog
+WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.PortTable 1 - "00"
+WatchWindowDialog.RegisterTable 13 - "0000" | 14 - "0" | 16 - "0"
+caption: WatchWindowDialog.AddrLbl="0000" WatchWindowDialog.IButton 1="0"
+text: WatchWindowDialog.ValueList="00"
+> key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
+WatchWindowDialog.RegisterTable 2 - "FF" | 4 - "FF00" | 13 - "8003" | 15..16 - "1" | 18 - "1"
+caption: WatchWindowDialog.AddrLbl="8002"
+== the end of memory
+# A row past FFFFh gets no address: the fill ends there and the window stays hidden.
+> click EntryMode ; click NewOrigin ; key NumberAcceptButton FFFE ; enter ; key DataAcceptButton C3
+> enter ; enter ; key DataAcceptButton 76 ; enter ; click SimulationView ; settle ; changes
+box critical "Compile error. Invalid address in origin FFFEh." ok -> ok
+session: Selection=4 PanelState=29 CurrentRow=4 LastLine=5 FileChanged=1 AddressError=-1
+    MessageResult="1"
+LastAddressList 0="7FFF" | OriginList 1="FFFE" | StringTable rows=33
+Table1 rows=33 (1 in at 1) | 1 "Origin" "FFFE" | 2 - "FFFE" "DFB" "C3" "Data Byte."
+Table1 3 - "FFFF" "DFB" "00" "Data Byte." | 4 - - "DFB" "76" "Data Byte."
+Table1 colors 1,0..4=E0E0E0 2,2=own 4,2=cursor
+caption: EntryMode="Program &Mode" TipsLabel="Preparing for simulation..." | shown: DataBox
+hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
+# With that row gone the window is filled and shown. A jump at FFFEh reaches beyond the memory: the
+# address is shown, the rest of the row is not.
+> cell Table1 4 2 ; click DeleteEdit ; click SimulationView ; settle
+open WatchWindowDialog
+> key WatchWindowDialog.AcceptButton FFFE ; click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton ; changes
+session: Selection=2 CurrentRow=2 AddressError=0 SelectionAnchor=4
+LastAddressList 1="FFFF"
+Table1 1 "" "" | 2 "Origin" - "" "" "" | 3 - "FFFE" - "C3" | 4 - "FFFF" - "00"
+WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode" | 1 - "FFFE"
+WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
+WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
+WatchWindowDialog.InterruptTable 7 - "1" | WatchWindowDialog.MemoryTable rows=65537
+WatchWindowDialog.MemoryTable 0 "Address" "Value" | 1..65534 "0000".."FFFD" "00" | 65535 "FFFE" "C3"
+WatchWindowDialog.MemoryTable 65536 "FFFF" "00" | WatchWindowDialog.PortTable rows=257
+WatchWindowDialog.PortTable 0 "Address" "Value" | 1..256 "00".."FF" "00"
+WatchWindowDialog.RegisterTable rows=20 | 0 "Registers" "Value" | 1 "A" "00" | 2 "B" "00"
+WatchWindowDialog.RegisterTable 3 "C" "00" | 4 "BC" "0000" | 5 "D" "00" | 6 "E" "00" | 7 "DE" "0000"
+WatchWindowDialog.RegisterTable 8 "H" "00" | 9 "L" "00" | 10 "HL" "0000" | 11 "M(0000)" "00"
+WatchWindowDialog.RegisterTable 12 "SP" "FF00" | 13 "PC" "FFFE" | 14 "Zero" "0" | 15 "Sign" "0"
+WatchWindowDialog.RegisterTable 16 "Parity" "0" | 17 "Carry" "0" | 18 "Aux. Carry" "0"
+Table1 colors 1,0..4=own 2,0..1=E0E0E0 2,2=E0E0E0/cursor 2,3..4=E0E0E0 4,2=own
+WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
+caption: WatchWindowDialog.AddrLbl="FFFE"
+    WatchWindowDialog.StepNoteLabel="Enter a starting address and press OK."
+text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00"
+focus: WatchWindowDialog.AcceptButton
+# A NOP at FFFFh goes on at 0000h.
+> key WatchWindowDialog.AcceptButton FFFF ; click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "0000" "NOP" "00"
+WatchWindowDialog.RegisterTable 13 - "0000"
+caption: WatchWindowDialog.AddrLbl="FFFF" WatchWindowDialog.StepNoteLabel=""
+== ports and lines
+# An invalid opcode warns whenever it is shown, and runs as NOP.
+> row "IN p" CMA "OUT q" "MVI A,m" SIM EI "MVI A,n" SIM RIM DI ; click EntryMode
+> key DataAcceptButton 08 ; enter ; key DataAcceptButton F5 ; enter ; click EqtOption
+open RenumberDialog
+> click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
+> key RenumberDialog.XXAcceptButton 5 ; enter ; cell RenumberDialog.VariableTable 2 0
+> key RenumberDialog.XXAcceptButton 6 ; enter ; cell RenumberDialog.VariableTable 3 0
+> key RenumberDialog.XXAcceptButton 1d ; enter ; cell RenumberDialog.VariableTable 4 0
+> key RenumberDialog.XXAcceptButton 0a ; enter ; click RenumberDialog.DoneButton
+closed RenumberDialog
+> click SimulationView ; settle ; changes
+open WatchWindowDialog
+session: Selection=13 PanelState=29 CurrentRow=13 LastLine=11 FileChanged=1 SelectedInstruction=72
+    CurrentOpcode=243
+LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n" | XXCombo 0="p" 1="q" 2="m" 3="n"
+XXEqtList 0..1="05".."06" 2="1D" 3="0A"
+Table1 1 - "8000" "IN   p" "DB   05"
+    "Receive content from port address pointed by 'p' and store in Accumulator."
+Table1 2 - "8002" "CMA" "2F" "Complement content of Accumulator."
+Table1 3 - "8003" "OUT   q" "D3   06" "Send content of Accumulator to port address pointed by 'q'."
+Table1 4 - "8005" "MVI  A,   m" "3E   1D" "Move the equivalent of 'm' into Accumulator."
+Table1 5 - "8007" "SIM" "30" "Set interrupt mask." | 6 - "8008" "EI" "FB" "Enable interrupts."
+Table1 7 - "8009" "MVI  A,   n" "3E   0A" "Move the equivalent of 'n' into Accumulator."
+Table1 8 - "800B" "SIM" "30" "Set interrupt mask." | 9 - "800C" "RIM" "20" "Reset interrupt mask."
+Table1 10 - "800D" "DI" "F3" "Disable interrupts." | 11 - "800E" "DFB" "08" "Data Byte."
+Table1 12 - "800F" "DFB" "F5" "Data Byte." | WatchWindowDialog.InstructionTable rows=2
+WatchWindowDialog.InstructionTable 0 "Label" "Addr." "Mnemonics" "Opcode"
+WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
+WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
+WatchWindowDialog.InterruptTable 7 - "1" | WatchWindowDialog.MemoryTable rows=65537
+WatchWindowDialog.MemoryTable 0 "Address" "Value" | 1..32768 "0000".."7FFF" "00" | 32769 "8000" "DB"
+WatchWindowDialog.MemoryTable 32770 "8001" "05" | 32771 "8002" "2F" | 32772 "8003" "D3"
+WatchWindowDialog.MemoryTable 32773 "8004" "06" | 32774 "8005" "3E" | 32775 "8006" "1D"
+WatchWindowDialog.MemoryTable 32776 "8007" "30" | 32777 "8008" "FB" | 32778 "8009" "3E"
+WatchWindowDialog.MemoryTable 32779 "800A" "0A" | 32780 "800B" "30" | 32781 "800C" "20"
+WatchWindowDialog.MemoryTable 32782 "800D" "F3" | 32783 "800E" "08" | 32784 "800F" "F5"
+WatchWindowDialog.MemoryTable 32785..65536 "8010".."FFFF" "00"
+WatchWindowDialog.PortTable rows=257 | 0 "Address" "Value" | 1..256 "00".."FF" "00"
+WatchWindowDialog.RegisterTable rows=20 | 0 "Registers" "Value" | 1 "A" "00" | 2 "B" "00"
+WatchWindowDialog.RegisterTable 3 "C" "00" | 4 "BC" "0000" | 5 "D" "00" | 6 "E" "00" | 7 "DE" "0000"
+WatchWindowDialog.RegisterTable 8 "H" "00" | 9 "L" "00" | 10 "HL" "0000" | 11 "M(0000)" "00"
+WatchWindowDialog.RegisterTable 12 "SP" "FF00" | 13 "PC" "0000" | 14 "Zero" "0" | 15 "Sign" "0"
+WatchWindowDialog.RegisterTable 16 "Parity" "0" | 17 "Carry" "0" | 18 "Aux. Carry" "0"
+Table1 colors 1,2=own 13,2=cursor | WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
+caption: EntryMode="Program &Mode" TipsLabel="Preparing for simulation..."
+    WatchWindowDialog.AddrLbl="0000"
+text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00" | shown: DataBox
+hidden: InstructionBox | focus: DataAcceptButton WatchWindowDialog.AcceptButton
+default: DataAcceptButton
+# A forced value comes in at one port and goes out, complemented, at the other.
+> pick WatchWindowDialog.PortAddrList 5 ; pick WatchWindowDialog.ValueList 60
+> click WatchWindowDialog.ForceButton ; key WatchWindowDialog.AcceptButton 8000
+> click WatchWindowDialog.AcceptButton ; click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "CMA" "2F" | WatchWindowDialog.PortTable 6 - "3C"
+WatchWindowDialog.RegisterTable 1 - "3C" | 13 - "8002"
+caption: WatchWindowDialog.AddrLbl="8000"
+text: WatchWindowDialog.PortAddrList="05" WatchWindowDialog.ValueList="3C"
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8005" "MVI  A,  1Dh" "3E   1D"
+WatchWindowDialog.PortTable 7 - "C3" | WatchWindowDialog.RegisterTable 1 - "C3" | 13 - "8005"
+# Interrupt masks and lines are seen and change nothing else.
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8009" "MVI  A,  0Ah" "3E   0A"
+WatchWindowDialog.InterruptTable 2 - "0" | WatchWindowDialog.RegisterTable 1 - "1D" | 13 - "8009"
+WatchWindowDialog.InterruptTable colors 3,0=00FF00 5,0=00FF00
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+box information "This is an invalid instruction. However, the processor will execute this instruction as a NOP instruction." ok -> ok
+session: MessageResult="1"
+WatchWindowDialog.InstructionTable 1 - "800E" "-" "08" | WatchWindowDialog.RegisterTable 1 - "0A"
+WatchWindowDialog.RegisterTable 13 - "800E"
+WatchWindowDialog.InterruptTable colors 2,0=00FF00 3,0=0000FF 4,0=00FF00 5,0=0000FF
+> press WatchWindowDialog.IButton 1 ; press WatchWindowDialog.IButton 2 ; changes
+caption: WatchWindowDialog.IButton 1="1" WatchWindowDialog.IButton 2="1"
+> release WatchWindowDialog.IButton 1 ; release WatchWindowDialog.IButton 2
+> click WatchWindowDialog.IButton 5 ; changes
+caption: WatchWindowDialog.IButton 2="0" WatchWindowDialog.IButton 5="1"
+> click WatchWindowDialog.IButton 1 ; click WatchWindowDialog.IButton 5 ; changes
+caption: WatchWindowDialog.IButton 1="0" WatchWindowDialog.IButton 5="0"
+# The invalid one, and a step that fails: the text 0A is no decimal number to push.
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "800F" "PUSH PSW" "F5"
+WatchWindowDialog.RegisterTable 13 - "800F"
+> click WatchWindowDialog.ExecuteButton ; changes
+caption: WatchWindowDialog.StepNoteLabel="This instruction could not be carried out."
+# The keypad and the keys of its OK button.
+> click WatchWindowDialog.NUM 15 ; click WatchWindowDialog.NUM 5 ; changes
+caption: WatchWindowDialog.AddrLbl="00F5"
+> key WatchWindowDialog.AcceptButton "gaF" ; changes
+caption: WatchWindowDialog.AddrLbl="F5AF"

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QWindow>
+#include <chrono>
 
 namespace quilla {
 namespace {
@@ -9,6 +10,9 @@ namespace {
 /// The program has ended under a handler that waits. No handler catches it, since it is no
 /// std::exception; the gate does.
 struct ProgramEnded {};
+
+/// A turn of the loop waits no longer for an event.
+constexpr std::chrono::milliseconds kLongestTurn{10};
 
 }  // namespace
 
@@ -49,8 +53,11 @@ void QtEventLoop::WaitUntilClosed(Form& form) {
   if (gate_.is_shut()) throw ProgramEnded{};
 }
 
-void QtEventLoop::Yield(const Control& /*waiter*/) {
-  QCoreApplication::processEvents();
+void QtEventLoop::Yield(const Control& /*waiter*/) { Turn(); }
+
+void QtEventLoop::Turn() {
+  wake_.start(kLongestTurn);
+  QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
   if (gate_.is_shut()) throw ProgramEnded{};
 }
 

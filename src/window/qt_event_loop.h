@@ -4,6 +4,7 @@
 #define QUILLA_WINDOW_QT_EVENT_LOOP_H_
 
 #include <QEventLoop>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -29,6 +30,8 @@ class QtEventLoop : public EventLoop {
 
   /// Waiting for anything once the program has ended leaves the handler that waits.
   void Yield(const Control& waiter) override;
+  /// Waits a moment for events and handles them.
+  void Turn();
   void End() override;
 
  protected:
@@ -39,6 +42,7 @@ class QtEventLoop : public EventLoop {
 
  private:
   Gate& gate_;
+  QTimer wake_;
   WindowFactory make_window_;
   std::unordered_map<const Form*, std::unique_ptr<QWidget>> windows_;
   std::unordered_map<const Form*, QEventLoop*> waits_;

@@ -8,21 +8,10 @@
 #include "window/qt_dialogs.h"
 #include "window/qt_event_loop.h"
 #include "window/qt_printer.h"
+#include "window/qt_serial_port.h"
 #include "window/windows.h"
 
 namespace quilla {
-
-/// A machine without serial ports.
-class NoSerialPort : public SerialPort {
- public:
-  void Open(int number, const std::string& settings) override;
-  void Close() override {}
-  bool IsOpen() const override { return false; }
-  void SetDtr(bool /*on*/) override {}
-  void SetRts(bool /*on*/) override {}
-  void Write(const std::string& bytes) override;
-  std::string Read() override;
-};
 
 class QtOutside {
  public:
@@ -34,7 +23,7 @@ class QtOutside {
   Gate gate_;
   QtMessageBoxes boxes_;
   QtFileDialogs file_dialogs_;
-  NoSerialPort serial_port_;
+  QtSerialPort serial_port_{[this] { event_loop_.Turn(); }};
   QtClock clock_{gate_};
   QtPrinter printer_;
   QtEventLoop event_loop_{gate_,

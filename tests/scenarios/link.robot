@@ -21,12 +21,12 @@ dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "short.hex"
 box critical "Check Sum error in short.hex." ok -> ok
 # The user changes his mind at the prompt: the records stay, and the port stays closed.
 > changes ; path good.hex ; click DownloadFile ; settle ; changes
-session: HexPath="short.hex" MessageResult="1"
+session: HexPath="short.hex" HexTitle="short.hex" MessageResult="1"
 HexList count=2 0=":018000007F" 1=":00000001FF"
 caption: TipsLabel="Program Mode."
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> cancel
-session: HexPath="good.hex" MessageResult="2"
+session: HexPath="good.hex" HexTitle="good.hex" MessageResult="2"
 HexList count=3 (1 in at 0) 0=":0080000080" 1=":018000007609"
 caption: TipsLabel="Ready to download."
 # Every stage in its time, from data mode and back to it. The port stays open for 100 ms.
@@ -49,35 +49,18 @@ focus: DataAcceptButton
 default: DataAcceptButton
 port close
 session: PortOpen=0
-# Esc closes the port before its time, and the timer finds it closed.
-> path good.hex ; click DownloadFile ; answer ok ; tick 20 ; escape ; settle
-dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
-box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
-port open 1 "2400,N,8,1"
-dtr 1
-rts 1
-sent ":0080000080"
-sent ":018000007609"
-sent ":00000001FF"
-port close
-# A port that is missing, in use, or broken. Broken, it was open, and is taken for open still.
-> click PortOption 3 ; show PortOption 0 ; show PortOption 3 ; port 4 missing ; port 2 busy
-PortOption 0 caption="Comm&1" checked=0 enabled=1 visible=1
-PortOption 3 caption="Comm&4" checked=1 enabled=1 visible=1
+# A port that is missing or broken. Broken, it was open, and is taken for open still.
+> click PortOption 3 ; port 4 missing ; port 2 broken
 > path good.hex ; click DownloadFile ; answer ok ; settle ; changes ; click PortOption 1
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
 box critical "Comm4 is not available or already in use. Please assign another port for serial communication." ok -> ok
-session: PanelState=1 CommPort=4
+session: PanelState=1 CommPortNumber=4 MSComm1.CommPort=4
 caption: EntryMode="Data &Mode" TipsLabel="Download incomplete."
 shown: InstructionBox
 hidden: DataBox
 checked: PortOption 3
 unchecked: PortOption 0
-> path good.hex ; click DownloadFile ; answer ok ; settle ; port 2 broken
-dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
-box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
-box critical "Comm2 is not available or already in use. Please assign another port for serial communication." ok -> ok
 > path good.hex ; click DownloadFile ; answer ok ; settle ; changes ; escape ; changes
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
@@ -86,12 +69,12 @@ dtr 1
 rts 1
 box critical "Unable to download." ok -> ok
 port close
-session: PortOpen=1 CommPort=2
+session: PortOpen=1 CommPortNumber=2 MSComm1.CommPort=2
 checked: PortOption 1
 unchecked: PortOption 3
 session: PortOpen=0
 caption: TipsLabel="Program Mode."
-# The same for an upload, and a user who does not want it.
+# An upload that the user does not want, on a port that is broken, and on one that is in use.
 > click UploadFile ; changes ; answer ok ; click UploadFile ; changes ; port 2 busy
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> cancel
 session: MessageResult="2"
@@ -102,11 +85,9 @@ dtr 1
 port close
 session: MessageResult="1"
 caption: TipsLabel="Upload incomplete."
-> answer ok ; click UploadFile ; click PortOption 3 ; answer ok ; click UploadFile
+> answer ok ; click UploadFile
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
 box critical "Comm2 is not available or already in use. Please assign another port for serial communication." ok -> ok
-box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
-box critical "Comm4 is not available or already in use. Please assign another port for serial communication." ok -> ok
 # A silent trainer: the panel works on meanwhile, and Esc ends the wait from any task.
 > click PortOption 0 ; answer ok ; click UploadFile
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
@@ -119,7 +100,7 @@ TipsLabel caption="Select Row, Enter Comments and Click 'Done', or Click 'Cancel
 > escape
 port close
 > changes
-session: CommPort=1
+session: CommPortNumber=1 MSComm1.CommPort=1
 checked: PortOption 0
 unchecked: PortOption 1
 # While one upload waits, neither another nor a download gets the port. What comes in pieces is one
@@ -175,24 +156,9 @@ dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "no/such.hex"
 box critical "Unable to save file." ok -> ok
 HexList 0 ":01800000760"
 HexList 1 ":00000001FF\n"
-session: HexPath="no/such.hex"
+session: HexPath="no/such.hex" HexTitle="up.hex"
 HexList count=2 (1 out at 0) 0=":01800000760" 1=":00000001FF\n"
 caption: TipsLabel="Failed to save file."
-# No file chosen: no message, the same tip.
-> answer ok ; click UploadFile
-box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
-port open 1 "2400,N,8,1"
-rts 1
-dtr 1
-sent "ATV1Q0\r"
-> feed ":00000001FF"
-> settle ; list HexList ; changes
-dtr 0
-rts 0
-port close
-dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> cancel
-HexList 0 ":00000001FF"
-HexList count=1 (1 out at 0) 0=":00000001FF"
 # Something ahead of the first colon, and a record too short for its line end: what was cut stays.
 > answer ok ; click UploadFile
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
@@ -224,7 +190,7 @@ box critical "Received data is corrupt. Please upload again." ok -> ok
 HexList 0 ":01"
 HexList 1 ":"
 HexList 2 ":00000001FF"
-# Esc between the end record and its timer: a new wait, which that timer ends.
+# Esc between the end record and its timer: a new wait, which that timer ends, with nothing to save.
 > answer ok ; click UploadFile
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
 port open 1 "2400,N,8,1"
@@ -239,13 +205,14 @@ port open 1 "2400,N,8,1"
 rts 1
 dtr 1
 sent "ATV1Q0\r"
-> path up.hex ; settle
+> settle
 dtr 0
 rts 0
 port close
-dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "up.hex"
-> list HexList
+dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> cancel
+> list HexList ; changes
 HexList empty
+caption: TipsLabel="Upload incomplete."
 # Unsaved changes are asked for first. A file without its end record stays open: no later download
 # finds its channel free.
 > row NOP ; click DownloadFile ; answer no ; path endless.hex ; click DownloadFile ; list HexList

@@ -175,7 +175,7 @@ class LinkTest : public QtSerialPortTest {
   void Transfer(MenuEntry& entry, const QString& path = {}) {
     outside_.file_dialogs.Queue(path.toStdString());
     outside_.boxes.Queue(BoxAnswer::kOk);
-    entry.Click();
+    entry.Choose();
   }
   /// Runs `action` when the tip reads so; it may be inside a handler that waits.
   void When(const std::string& wanted, const std::function<void()>& action) {
@@ -245,7 +245,7 @@ TEST_F(LinkTest, ATrainerThatIsGoneIsTold) {
 TEST_F(LinkTest, EscEndsTheWaitForASilentTrainer) {
   const Peer peer;
   Plug(peer.name());
-  When("Ready for upload . . .", [this] { session().ProgrammingPanel.cancel_button()->Click(); });
+  When("Ready for upload . . .", [this] { session().ProgrammingPanel.cancel_button()->Choose(); });
   Transfer(menu().UploadFile);
   EXPECT_EQ(tip(), "Upload incomplete.");
 }

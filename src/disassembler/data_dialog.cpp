@@ -103,11 +103,9 @@ void DataDialog::DataTable_MouseUp() {
 }
 
 void DataDialog::AssignDataType(int last_row, int first_row) {
-  for (int row = first_row; row <= last_row; ++row) {
+  for (int row = std::max(first_row, kHeadingRows); row <= last_row; ++row) {
     DataTable_.SetTextMatrix(row, kCategory, DataTypeLabel_.caption());
-    if (row >= kHeadingRows) {
-      bytes_[static_cast<std::size_t>(row - kHeadingRows)].category = data_type_;
-    }
+    bytes_[static_cast<std::size_t>(row - kHeadingRows)].category = data_type_;
   }
   if (data_type_ != Category::kUnwanted) DoneButton_.set_enabled(true);
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "assembler/assembler.h"
+#include "disassembler/data_dialog.h"
 #include "entry/cancel_action.h"
 #include "entry/comment_tool.h"
 #include "entry/data_entry.h"
@@ -53,7 +54,7 @@ class ProgrammingPanel {
   Form& form() { return session_.ProgrammingPanel; }
   /// The dialogs that belong to the panel, open or not.
   std::vector<Form*> Dialogs() {
-    return {&equivalents_.form(), &watch_window_.form(), &print_info_.form()};
+    return {&equivalents_.form(), &watch_window_.form(), &print_info_.form(), &data_dialog_.form()};
   }
 
  private:
@@ -92,6 +93,7 @@ class ProgrammingPanel {
   PrintInfo print_info_{session_, printing_};
   PrintComment print_comment_{session_, states_, printing_};
   PrintRun print_run_{session_, printing_, addresses_};
+  DataDialog data_dialog_{session_, rows_, origins_, addresses_};
   NewFileCommand new_file_{session_, states_, rows_, numbers_};
   ProjectFile project_{session_, states_, rows_, origins_, new_file_};
   PortMenu ports_{session_};

@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QTimerEvent>
 #include <algorithm>
+#include <utility>
 
 #include "window/cell_delegate.h"
 
@@ -128,7 +129,7 @@ void GridView::SyncWithGrid() {
   const auto shape =
       grid_.pointer() == GridPointer::kPick ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (viewport()->cursor().shape() != shape) viewport()->setCursor(shape);
-  if (press_row_ != kNone) return;
+  if (press_row_ != kNone || key_anchor_.isValid()) return;
   const bool shows_rows =
       grid_.selection_display() == SelectionDisplay::kRows && grid_.Row() != grid_.RowSel();
   if (shows_rows) {
@@ -211,20 +212,40 @@ void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
 }
 
-void GridView::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Space && currentIndex().isValid()) {
-    Click(currentIndex());
-    return;
-  }
-  QTableView::keyPressEvent(event);
+void GridView::focusOutEvent(QFocusEvent* event) {
+  key_anchor_ = QPersistentModelIndex();
+  SyncWithGrid();
+  QTableView::focusOutEvent(event);
 }
 
-void GridView::Click(const QModelIndex& cell) {
-  const int row = cell.row();
-  const int column = cell.column();
+void GridView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space && currentIndex().isValid()) {
+    Drag(currentIndex(), currentIndex().row());
+    return;
+  }
+  const QModelIndex before = currentIndex();
+  QTableView::keyPressEvent(event);
+  if ((event->modifiers() & Qt::ShiftModifier) == 0 || currentIndex().row() == before.row()) return;
+  if (!key_anchor_.isValid()) key_anchor_ = before;
+  ShowRows(key_anchor_.row(), currentIndex().row());
+}
+
+// Letting go of Shift ends a selection of rows as letting go of the mouse does.
+void GridView::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Shift && key_anchor_.isValid()) {
+    const QModelIndex from = std::exchange(key_anchor_, QPersistentModelIndex());
+    Drag(from, currentIndex().row());
+    return;
+  }
+  QTableView::keyReleaseEvent(event);
+}
+
+void GridView::Drag(const QModelIndex& from, int to_row) {
+  const int row = from.row();
+  const int column = from.column();
   gate_.Enter([&] {
     grid_.PressCell(row, column);
-    grid_.ReleaseAt(row);
+    grid_.ReleaseAt(to_row);
     grid_.ClickCell();
   });
 }

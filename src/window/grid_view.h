@@ -4,6 +4,7 @@
 #define QUILLA_WINDOW_GRID_VIEW_H_
 
 #include <QBasicTimer>
+#include <QPersistentModelIndex>
 #include <QTableView>
 #include <vector>
 
@@ -33,7 +34,9 @@ class GridView : public QTableView {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -46,7 +49,8 @@ class GridView : public QTableView {
   void ShowRows(int from, int to);
   void DragTo(int y);
   void KeepInView(int row);
-  void Click(const QModelIndex& cell);
+  /// Does what a drag with the mouse does, a click where both rows are one.
+  void Drag(const QModelIndex& from, int to_row);
   /// The row at a height of the view, cut off at the first and the last.
   int RowNear(int y) const;
 
@@ -56,6 +60,7 @@ class GridView : public QTableView {
   Grid& grid_;
   int press_row_ = kNone;
   int press_column_ = kNone;
+  QPersistentModelIndex key_anchor_;  // where rows began to be selected with the keys
   QPoint pointer_;
   QBasicTimer scroll_timer_;
 };

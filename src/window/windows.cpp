@@ -4,6 +4,7 @@
 #include <string>
 
 #include "program/vocabulary.h"
+#include "window/data_window.h"
 #include "window/main_window.h"
 #include "window/print_info_window.h"
 #include "window/renumber_window.h"
@@ -24,9 +25,9 @@ std::unique_ptr<QWidget> Make(Gate& gate, EventLoop& event_loop, Form& form) {
 
 std::unique_ptr<QWidget> MakeWindow(Gate& gate, EventLoop& event_loop, Form& form) {
   static const std::map<std::string, Maker> kMakers = {
-      {kOpenForm, Make<SplashWindow>},         {kPrintInfo, Make<PrintInfoWindow>},
-      {kProgrammingPanel, Make<MainWindow>},   {kRenumberDialog, Make<RenumberWindow>},
-      {kWatchWindowDialog, Make<WatchWindow>},
+      {kDataDialog, Make<DataWindow>},         {kOpenForm, Make<SplashWindow>},
+      {kPrintInfo, Make<PrintInfoWindow>},     {kProgrammingPanel, Make<MainWindow>},
+      {kRenumberDialog, Make<RenumberWindow>}, {kWatchWindowDialog, Make<WatchWindow>},
   };
   return kMakers.at(form.name())(gate, event_loop, form);
 }

@@ -3,13 +3,14 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <string_view>
 
+#include "window/bindings.h"
 #include "window/box_page.h"
 #include "window/keypad.h"
-#include "window/widgets.h"
 
 namespace quilla {
 namespace {
@@ -20,15 +21,11 @@ constexpr int kMargin = 12;
 constexpr int kInputWidthInDigits = 16;
 constexpr int kCommentWidthInDigits = 80;
 
-void AddIf(QBoxLayout* layout, QWidget* widget, int stretch = 0) {
-  if (widget != nullptr) layout->addWidget(widget, stretch);
-}
-
-QBoxLayout* Row(const WidgetMaker& make, Names names) {
+void AddRow(QVBoxLayout* column, FormMirror& mirror, QWidget* page, Names names) {
   auto* const row = new QHBoxLayout;
-  for (const std::string_view name : names) AddIf(row, make.Make(name));
+  for (const std::string_view name : names) row->addWidget(Make(mirror, page, name));
   row->addStretch();
-  return row;
+  column->addLayout(row);
 }
 
 /// A page that is filled from the top left corner on.
@@ -40,22 +37,20 @@ QVBoxLayout* NewColumn(QWidget* page) {
 }
 
 // Two rows of keys, register pairs one above the other.
-void FillRegisterPage(const WidgetMaker& make, BoxPage* page) {
+void FillRegisterPage(FormMirror& mirror, BoxPage* page) {
   constexpr std::array<std::array<int, 5>, 2> kRows = {{{0, 2, 4, 7, 8}, {1, 3, 5, 6, 9}}};
   auto* const column = NewColumn(page);
   auto* const heading = new QHBoxLayout;
-  AddIf(heading, make.Make("RegisterCaption"));
-  AddIf(heading, make.MakeBold("RegisterLabel"));
+  heading->addWidget(Make(mirror, page, "RegisterCaption"));
+  heading->addWidget(MakeBold(mirror, page, "RegisterLabel"));
   heading->addStretch();
   column->addLayout(heading);
 
   QWidget* const keys = NewKeyBlock(page);
   auto* const grid = static_cast<QGridLayout*>(keys->layout());
-  const WidgetMaker make_key(make.mirror(), keys);
   for (std::size_t row = 0; row < kRows.size(); ++row) {
     for (std::size_t place = 0; place < kRows[row].size(); ++place) {
-      QWidget* const key = make_key.Make("REG", kRows[row][place], ButtonShape::kKey);
-      if (key == nullptr) continue;
+      QWidget* const key = MakeKey(mirror, keys, "REG", kRows[row][place]);
       key->setMinimumWidth(DigitsWidth(*key, kKeyWidthInDigits));
       grid->addWidget(key, static_cast<int>(row), static_cast<int>(place));
     }
@@ -68,48 +63,47 @@ void FillRegisterPage(const WidgetMaker& make, BoxPage* page) {
 }
 
 // The value on the left, sixteen digit keys as on a trainer's keyboard, and what takes the value.
-void FillDigitPage(const WidgetMaker& make, BoxPage* page, std::string_view caption,
+void FillDigitPage(FormMirror& mirror, BoxPage* page, std::string_view caption,
                    std::string_view value, std::string_view keys_name, std::string_view accept) {
   auto* const row = new QHBoxLayout(page);
   row->setContentsMargins(kMargin, 4, kMargin, 4);
   row->setSpacing(16);
   auto* const display = new QVBoxLayout;
-  AddIf(display, make.Make(caption));
-  AddIf(display, MakeBigDigits(make, value));
+  display->addWidget(Make(mirror, page, caption));
+  display->addWidget(MakeBigDigits(mirror, page, value));
   display->addStretch();
   row->addLayout(display);
 
-  QWidget* const keys = MakeKeypad(make.mirror(), page, keys_name);
+  QWidget* const keys = MakeKeypad(mirror, page, keys_name);
   row->addWidget(keys, 0, Qt::AlignTop);
   auto* const actions = new QVBoxLayout;
-  AddIf(actions, make.Make(accept));
+  actions->addWidget(Make(mirror, page, accept));
   actions->addStretch();
   row->addLayout(actions);
   row->addStretch();
   page->set_keys(keys);
 }
 
-void FillNumberPage(const WidgetMaker& make, BoxPage* page) {
-  FillDigitPage(make, page, "DataTypeLabel", "NumberLabel", "NUM", "NumberAcceptButton");
-  make.MakeOutOfSight("NumberFocusButton");
+void FillNumberPage(FormMirror& mirror, BoxPage* page) {
+  FillDigitPage(mirror, page, "DataTypeLabel", "NumberLabel", "NUM", "NumberAcceptButton");
+  MakeOutOfSight(mirror, page, "NumberFocusButton");
 }
 
-void FillDataPage(const WidgetMaker& make, BoxPage* page) {
-  FillDigitPage(make, page, "DataCaption", "DataLabel", "DataNum", "DataAcceptButton");
+void FillDataPage(FormMirror& mirror, BoxPage* page) {
+  FillDigitPage(mirror, page, "DataCaption", "DataLabel", "DataNum", "DataAcceptButton");
 }
 
 // A new name or one that exists, and what to do with it.
-void FillChoicePage(const WidgetMaker& make, BoxPage* page, std::string_view heading,
-                    Names new_name, Names existing_name, Names buttons) {
+void FillChoicePage(FormMirror& mirror, BoxPage* page, std::string_view heading, Names new_name,
+                    Names existing_name, Names buttons) {
   auto* const column = NewColumn(page);
-  AddIf(column, make.MakeBold(heading));
+  column->addWidget(MakeBold(mirror, page, heading));
   auto* const grid = new QGridLayout;
   int row = 0;
   for (const Names& pair : {new_name, existing_name}) {
     int place = 0;
     for (const std::string_view name : pair) {
-      QWidget* const widget = make.Make(name);
-      if (widget == nullptr) continue;
+      QWidget* const widget = Make(mirror, page, name);
       if (place > 0) widget->setFixedWidth(DigitsWidth(*widget, kInputWidthInDigits));
       grid->addWidget(widget, row, place++);
     }
@@ -117,73 +111,71 @@ void FillChoicePage(const WidgetMaker& make, BoxPage* page, std::string_view hea
   }
   grid->setColumnStretch(2, 1);
   column->addLayout(grid);
-  column->addLayout(Row(make, buttons));
+  AddRow(column, mirror, page, buttons);
   column->addStretch();
 }
 
-void FillLabelPage(const WidgetMaker& make, BoxPage* page) {
-  FillChoicePage(make, page, "LabelHeading", {"NewLabelOption", "LabelText"},
+void FillLabelPage(FormMirror& mirror, BoxPage* page) {
+  FillChoicePage(mirror, page, "LabelHeading", {"NewLabelOption", "LabelText"},
                  {"ExistingLabelOption", "LabelCombo"}, {"LabelAcceptButton"});
 }
 
-void FillVariablePage(const WidgetMaker& make, BoxPage* page) {
-  FillChoicePage(make, page, "XXHeading", {"NewXXOption", "XXText"},
+void FillVariablePage(FormMirror& mirror, BoxPage* page) {
+  FillChoicePage(mirror, page, "XXHeading", {"NewXXOption", "XXText"},
                  {"ExistingXXOption", "XXCombo"},
                  {"XXAcceptButton", "XXFindButton", "XXReplaceButton", "XXDoneButton"});
 }
 
-void FillPlacePage(const WidgetMaker& make, BoxPage* page) {
-  FillChoicePage(make, page, "PlaceHeading", {"NewPlaceOption", "PlaceText"},
+void FillPlacePage(FormMirror& mirror, BoxPage* page) {
+  FillChoicePage(mirror, page, "PlaceHeading", {"NewPlaceOption", "PlaceText"},
                  {"ExistingPlaceOption", "PlaceCombo"}, {"PlaceAcceptButton", "PlaceDoneButton"});
 }
 
-void FillReplacePage(const WidgetMaker& make, BoxPage* page) {
-  FillChoicePage(make, page, "ReplaceHeading", {"NewReplaceOption", "ReplaceText"},
+void FillReplacePage(FormMirror& mirror, BoxPage* page) {
+  FillChoicePage(mirror, page, "ReplaceHeading", {"NewReplaceOption", "ReplaceText"},
                  {"ExistingReplaceOption", "ReplaceCombo"},
                  {"ReplaceAcceptButton", "ReplaceDoneButton"});
 }
 
-void FillFindPage(const WidgetMaker& make, BoxPage* page) {
+void FillFindPage(FormMirror& mirror, BoxPage* page) {
   auto* const column = NewColumn(page);
-  AddIf(column, make.MakeBold("FindHeading"));
+  column->addWidget(MakeBold(mirror, page, "FindHeading"));
   auto* const row = new QHBoxLayout;
-  AddIf(row, make.Make("FindCaption"));
-  if (QWidget* const combo = make.Make("FindCombo")) {
-    combo->setFixedWidth(DigitsWidth(*combo, kInputWidthInDigits));
-    row->addWidget(combo);
-  }
+  row->addWidget(Make(mirror, page, "FindCaption"));
+  QWidget* const combo = Make(mirror, page, "FindCombo");
+  combo->setFixedWidth(DigitsWidth(*combo, kInputWidthInDigits));
+  row->addWidget(combo);
   row->addStretch();
   column->addLayout(row);
-  column->addLayout(Row(make, {"FindButton", "FindDoneButton"}));
+  AddRow(column, mirror, page, {"FindButton", "FindDoneButton"});
   column->addStretch();
 }
 
-void FillTextPage(const WidgetMaker& make, BoxPage* page, std::string_view heading,
+void FillTextPage(FormMirror& mirror, BoxPage* page, std::string_view heading,
                   std::string_view text, Names buttons) {
   auto* const column = NewColumn(page);
-  AddIf(column, make.MakeBold(heading));
-  if (QWidget* const edit = make.Make(text)) {
-    edit->setMaximumWidth(DigitsWidth(*edit, kCommentWidthInDigits));
-    column->addWidget(edit);
-  }
-  column->addLayout(Row(make, buttons));
+  column->addWidget(MakeBold(mirror, page, heading));
+  QWidget* const edit = Make(mirror, page, text);
+  edit->setMaximumWidth(DigitsWidth(*edit, kCommentWidthInDigits));
+  column->addWidget(edit);
+  AddRow(column, mirror, page, buttons);
   column->addStretch();
 }
 
-void FillCommentsPage(const WidgetMaker& make, BoxPage* page) {
-  FillTextPage(make, page, "CommentsHeading", "CommentsTxt",
+void FillCommentsPage(FormMirror& mirror, BoxPage* page) {
+  FillTextPage(mirror, page, "CommentsHeading", "CommentsTxt",
                {"CommentNextButton", "DefaultCommentButton", "CommentContinueButton",
                 "CommentDoneButton", "CommentCancelButton"});
 }
 
-void FillPrintCommentPage(const WidgetMaker& make, BoxPage* page) {
-  FillTextPage(make, page, "PrintCommentHeading", "PrintCommentText",
+void FillPrintCommentPage(FormMirror& mirror, BoxPage* page) {
+  FillTextPage(mirror, page, "PrintCommentHeading", "PrintCommentText",
                {"ClearComments", "PrintCommentDoneButton", "PrintCommentCancelButton"});
 }
 
 struct PageLayout {
   std::string_view box;
-  void (*fill)(const WidgetMaker&, BoxPage*);
+  void (*fill)(FormMirror&, BoxPage*);
 };
 
 constexpr std::array kLayouts = {PageLayout{"RegisterBox", FillRegisterPage},
@@ -201,10 +193,11 @@ constexpr std::array kLayouts = {PageLayout{"RegisterBox", FillRegisterPage},
 
 QWidget* BuildBoxPage(FormMirror& mirror, Box& box, QWidget* parent) {
   auto* const page = new BoxPage(parent);
-  for (const PageLayout& layout : kLayouts) {
-    if (layout.box == box.name()) layout.fill(WidgetMaker(mirror, page), page);
-  }
-  mirror.Bind(box, *page);
+  const auto* const layout = std::find_if(kLayouts.begin(), kLayouts.end(),
+                                          [&](const auto& each) { return each.box == box.name(); });
+  if (layout == kLayouts.end()) qFatal("no layout for %s", box.name().c_str());
+  layout->fill(mirror, page);
+  Bind(mirror, box, *page);
   return page;
 }
 

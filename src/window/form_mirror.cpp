@@ -1,28 +1,21 @@
 #include "window/form_mirror.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <string>
 #include <utility>
 
-#include "window/mirrors.h"
+#include "platform/grid.h"
 #include "window/qt_text.h"
 
 namespace quilla {
 namespace {
 
-constexpr char16_t kFirstPrintable = u'!';
-constexpr char16_t kLastPrintable = u'~';
-
 bool IsUsable(const QWidget* widget) {
   return widget != nullptr && widget->isVisible() && widget->isEnabled();
-}
-
-bool IsUsable(const Control* control) {
-  return control != nullptr && control->IsVisible() && control->IsEnabled();
 }
 
 }  // namespace
@@ -43,55 +36,18 @@ FormMirror::~FormMirror() {
   if (busy_) QApplication::restoreOverrideCursor();
 }
 
+void FormMirror::EndWithout(std::string_view name, int index) const {
+  const QString wanted = WidgetName(std::string(name), index);
+  qFatal("%s has no such control: %s", form_.name().c_str(), qPrintable(wanted));
+}
+
 void FormMirror::Register(Control& control, QWidget& widget) {
   widgets_.insert(&control, &widget);
   controls_.insert(&widget, &control);
+  if (form_.default_button() == &control) MarkDefaultButton();
 }
 
-void FormMirror::Bind(Button& button, QAbstractButton& widget) {
-  new ButtonMirror(gate_, button, widget);
-  Register(button, widget);
-  if (form_.default_button() == &button) MarkDefaultButton();
-}
-
-void FormMirror::Bind(Option& option, QRadioButton& widget) {
-  new OptionMirror(gate_, option, widget);
-  Register(option, widget);
-}
-
-void FormMirror::Bind(Label& label, QLabel& widget) {
-  new LabelMirror(gate_, label, widget);
-  Register(label, widget);
-}
-
-void FormMirror::Bind(TextBox& text_box, QLineEdit& widget) {
-  new TextBoxMirror(gate_, text_box, widget);
-  Register(text_box, widget);
-}
-
-void FormMirror::Bind(ComboBox& combo, QComboBox& widget) {
-  new ComboBoxMirror(gate_, combo, widget);
-  Register(combo, widget);
-}
-
-void FormMirror::Bind(Box& box, QWidget& widget) {
-  new WidgetMirror(gate_, box, widget);
-  Register(box, widget);
-}
-
-void FormMirror::Bind(Grid& grid, GridView& widget) {
-  new WidgetMirror(gate_, grid, widget);
-  Register(grid, widget);
-}
-
-void FormMirror::Bind(MenuEntry& entry, QAction& action) {
-  new MenuEntryMirror(gate_, entry, action);
-  actions_.insert(&entry, &action);
-}
-
-QWidget* FormMirror::WidgetOf(const Control& control) const { return widgets_.value(&control); }
-
-QAction* FormMirror::ActionOf(const MenuEntry& entry) const { return actions_.value(&entry); }
+void FormMirror::Register(MenuEntry& entry, QAction& action) { actions_.insert(&entry, &action); }
 
 Control* FormMirror::ControlAt(const QWidget* widget) const {
   for (; widget != nullptr && widget != &window_; widget = widget->parentWidget()) {
@@ -182,84 +138,21 @@ bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   const bool comes_first = &widget == (focus == nullptr ? &window_ : focus);
   if (!comes_first) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
-  if (event->type() == QEvent::KeyPress) return HandleKey(key);
-  // A button's access key is the button's while it is on view, not that of a menu.
-  if (ButtonOf(key) == nullptr) return false;
+  if (event->type() == QEvent::KeyPress) return keys_.Press(key);
+  if (!keys_.IsAccessKey(key)) return false;
   event->accept();
   return true;
 }
 
-QAbstractButton* FormMirror::ButtonOf(const QKeyEvent& access_key) const {
-  if (access_key.modifiers() != Qt::AltModifier) return nullptr;
-  const QKeySequence pressed(Qt::ALT | static_cast<Qt::Key>(access_key.key()));
-  for (QWidget* widget : widgets_) {
-    auto* const button = qobject_cast<QAbstractButton*>(widget);
-    if (button == nullptr || !IsUsable(widget)) continue;
-    if (QKeySequence::mnemonic(button->text()) == pressed) return button;
-  }
-  return nullptr;
-}
-
-bool FormMirror::HandleKey(const QKeyEvent& key) {
-  if (QAbstractButton* const button = ButtonOf(key)) {
-    button->click();
-    return true;
-  }
-  constexpr auto kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-  if ((key.modifiers() & kCommands) != Qt::NoModifier) return false;
-  switch (key.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return PressButton(form_.default_button()) || PressFocusedButton();
-    case Qt::Key_Escape:
-      return PressButton(form_.cancel_button());
-    default:
-      return PassCharacter(key);
-  }
-}
-
-bool FormMirror::PressButton(Button* button) {
-  if (!IsUsable(button)) return false;
-  gate_.Enter([button] { button->Choose(); });
-  return true;
-}
-
-bool FormMirror::PressFocusedButton() {
-  auto* const button = qobject_cast<QPushButton*>(window_.focusWidget());
-  if (button != nullptr) button->click();
-  return button != nullptr;
-}
-
-Control* FormMirror::KeyTaker() const {
-  Control* control = ControlAt(window_.focusWidget());
-  const bool takes_text = dynamic_cast<const TextBox*>(control) != nullptr ||
-                          dynamic_cast<const ComboBox*>(control) != nullptr;
-  if (takes_text) return nullptr;
-  while (control != nullptr && !control->TakesKeys()) control = control->container();
-  return control == nullptr ? form_.focused() : control;
-}
-
-// A character goes to the control with the focus, or to the box around it, or, where these take
-// none, to the control that the program last gave the focus.
-bool FormMirror::PassCharacter(const QKeyEvent& key) {
-  const QString text = key.text();
-  if (text.size() != 1 || text[0] < kFirstPrintable || text[0] > kLastPrintable) return false;
-  Control* const taker = KeyTaker();
-  if (!IsUsable(taker) || !taker->TakesKeys()) return false;
-  gate_.Enter([&] { taker->PressKey(static_cast<char>(text[0].unicode())); });
-  return true;
-}
-
+// What a control has been told must not come again for the widgets that it stands in.
 bool FormMirror::HandlePointer(const QWidget& widget, const QMouseEvent& mouse) {
   if (mouse.buttons() != Qt::NoButton) return false;
   Control* const control = ControlAt(&widget);
   if (dynamic_cast<const Grid*>(control) != nullptr) return false;
-  if (control == nullptr || !control->MouseMove || !control->IsEnabled()) {
-    if (form_.MouseMove) gate_.Enter([this] { form_.Hover(); });
-    return false;
-  }
-  gate_.Enter([control] { control->Hover(); });
-  return true;
+  const bool has_hint = control != nullptr && control->MouseMove && control->IsEnabled();
+  Control& hovered = has_hint ? *control : form_;
+  if (hovered.MouseMove) gate_.Enter([&] { hovered.Hover(); });
+  return has_hint;
 }
 
 }  // namespace quilla

@@ -1,5 +1,5 @@
-// A form on the screen: it binds the controls of the form to widgets, and does what belongs to
-// the window as a whole: keys, the pointer's way over the controls, focus, default button, title.
+// A form on the screen: which widget shows which control, and what belongs to the window as a
+// whole: the pointer's way over the controls, focus, default button, title, closing.
 #ifndef QUILLA_WINDOW_FORM_MIRROR_H_
 #define QUILLA_WINDOW_FORM_MIRROR_H_
 
@@ -8,23 +8,15 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <string_view>
 
 #include "platform/button.h"
 #include "platform/form.h"
-#include "platform/grid.h"
 #include "platform/outside.h"
-#include "platform/text_box.h"
-#include "platform/text_list.h"
 #include "window/gate.h"
-#include "window/grid_view.h"
+#include "window/key_router.h"
 
-class QAbstractButton;
-class QComboBox;
-class QKeyEvent;
-class QLabel;
-class QLineEdit;
 class QMouseEvent;
-class QRadioButton;
 
 namespace quilla {
 
@@ -37,22 +29,25 @@ class FormMirror final : public QObject, private ControlObserver {
   FormMirror(Gate& gate, EventLoop& event_loop, Form& form, QWidget& window);
   ~FormMirror() override;
 
-  Gate& gate() { return gate_; }
-  Form& form() { return form_; }
+  Gate& gate() const { return gate_; }
+  Form& form() const { return form_; }
+  QWidget& window() const { return window_; }
 
-  /// Each makes the widget show the control, under the control's name.
-  void Bind(Button& button, QAbstractButton& widget);
-  void Bind(Option& option, QRadioButton& widget);
-  void Bind(Label& label, QLabel& widget);
-  void Bind(TextBox& text_box, QLineEdit& widget);
-  void Bind(ComboBox& combo, QComboBox& widget);
-  void Bind(Box& box, QWidget& widget);
-  void Bind(Grid& grid, GridView& widget);
-  void Bind(MenuEntry& entry, QAction& action);
+  /// The control of that name and kind. A layout that names one that is not there is a mistake in
+  /// the program, which ends with the name.
+  template <typename Kind = Control>
+  Kind& Get(std::string_view name, int index = Control::kNoIndex) const {
+    auto* const control = dynamic_cast<Kind*>(form_.Find(name, index));
+    if (control == nullptr) EndWithout(name, index);
+    return *control;
+  }
 
+  /// Notes which widget, or which action of a menu, shows a control.
+  void Register(Control& control, QWidget& widget);
+  void Register(MenuEntry& entry, QAction& action);
   /// The widget or the action that shows a control; null while there is none.
-  QWidget* WidgetOf(const Control& control) const;
-  QAction* ActionOf(const MenuEntry& entry) const;
+  QWidget* WidgetOf(const Control& control) const { return widgets_.value(&control); }
+  QAction* ActionOf(const MenuEntry& entry) const { return actions_.value(&entry); }
   /// The control shown by `widget` or by the nearest widget that it stands in; null if none is.
   Control* ControlAt(const QWidget* widget) const;
 
@@ -63,15 +58,9 @@ class FormMirror final : public QObject, private ControlObserver {
 
  private:
   void PropertyChanged(Property property) override;
-  void Register(Control& control, QWidget& widget);
+  [[noreturn]] void EndWithout(std::string_view name, int index) const;
   void SettleFocus();
-  bool HandleKey(const QKeyEvent& key);
-  /// The button on view whose access key this is; null if there is none.
-  QAbstractButton* ButtonOf(const QKeyEvent& access_key) const;
-  bool PressButton(Button* button);
-  bool PressFocusedButton();
-  bool PassCharacter(const QKeyEvent& key);
-  Control* KeyTaker() const;
+  /// Tells the control under the pointer, or the form; whether that was a control.
   bool HandlePointer(const QWidget& widget, const QMouseEvent& mouse);
   void MarkDefaultButton();
   void ShowEnabled();
@@ -81,6 +70,7 @@ class FormMirror final : public QObject, private ControlObserver {
   EventLoop& event_loop_;
   Form& form_;
   QWidget& window_;
+  KeyRouter keys_{*this};
   QHash<const Control*, QWidget*> widgets_;
   QHash<const Control*, QAction*> actions_;
   QHash<const QWidget*, Control*> controls_;

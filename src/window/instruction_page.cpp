@@ -10,8 +10,8 @@
 #include <string_view>
 
 #include "isa/instruction_set.h"
+#include "window/bindings.h"
 #include "window/qt_text.h"
-#include "window/widgets.h"
 
 namespace quilla {
 namespace {
@@ -46,20 +46,16 @@ InstructionPage::InstructionPage(FormMirror& mirror, QWidget* parent)
   column->setSpacing(2);
   column->addLayout(MakeHintLine());
   column->addLayout(MakeFamilies());
-  if (!keys_.empty()) MakeTabStop(0);
+  MakeTabStop(0);
 }
 
 QLayout* InstructionPage::MakeHintLine() {
-  const WidgetMaker make(mirror_, this);
   auto* const line = new QHBoxLayout;
   line->setSpacing(0);
-  QWidget* const caption = make.Make("InstructionCaption");
-  QWidget* const name = make.MakeBold("InstructionLabel", 0);
-  QWidget* const operands = make.Make("InstructionLabel", 1);
-  for (QWidget* widget : {caption, name, operands}) {
-    if (widget != nullptr) line->addWidget(widget);
-    if (widget == caption) line->addSpacing(kFamilyGap);
-  }
+  line->addWidget(Make(mirror_, this, "InstructionCaption"));
+  line->addSpacing(kFamilyGap);
+  line->addWidget(MakeBold(mirror_, this, "InstructionLabel", 0));
+  line->addWidget(Make(mirror_, this, "InstructionLabel", 1));
   line->addStretch();
   return line;
 }
@@ -93,14 +89,12 @@ QLayout* InstructionPage::MakeFamilies() {
 
 void InstructionPage::AddKey(const char* name, QGridLayout& layout, QPoint place) {
   const int index = FindInstructionKey(name);
-  auto* const button = dynamic_cast<Button*>(mirror_.form().Find("INST", index));
-  if (button == nullptr) return;
-  QWidget* const key = WidgetMaker(mirror_, this).Make(*button, ButtonShape::kKey);
+  QWidget* const key = MakeKey(mirror_, this, "INST", index);
   key->setFocusPolicy(Qt::ClickFocus);
   key->installEventFilter(this);
   layout.addWidget(key, place.y(), place.x());
   key_of_.insert(key, keys_.size());
-  keys_.push_back({key, button, place});
+  keys_.push_back({key, &mirror_.Get<Button>("INST", index), place});
 }
 
 // One key at a time is reached with Tab; from there the arrows lead on.
@@ -110,9 +104,7 @@ void InstructionPage::MakeTabStop(std::size_t key) {
   keys_[last_key_].widget->setFocusPolicy(Qt::StrongFocus);
 }
 
-void InstructionPage::FocusLastKey() {
-  if (!keys_.empty()) keys_[last_key_].widget->setFocus(Qt::OtherFocusReason);
-}
+void InstructionPage::FocusLastKey() { keys_[last_key_].widget->setFocus(Qt::OtherFocusReason); }
 
 bool InstructionPage::eventFilter(QObject* watched, QEvent* event) {
   const auto key = key_of_.constFind(watched);
@@ -154,8 +146,8 @@ bool InstructionPage::MoveBy(QPoint direction) {
   return true;
 }
 
-// Letters typed in one go are the beginning of a name. A letter that leads nowhere begins anew,
-// and the same letter again goes on to the next key with it.
+// Letters typed in one go are the beginning of a name. A letter that leads nowhere begins anew, and
+// the same letter again goes on to the next key with it.
 bool InstructionPage::LookUp(const QString& letter) {
   const bool in_one_go =
       since_typed_.isValid() && since_typed_.elapsed() < QApplication::keyboardInputInterval();

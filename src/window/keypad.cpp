@@ -2,6 +2,8 @@
 
 #include <QGridLayout>
 
+#include "window/bindings.h"
+
 namespace quilla {
 namespace {
 
@@ -29,19 +31,16 @@ QWidget* NewKeyBlock(QWidget* parent) {
 QWidget* MakeKeypad(FormMirror& mirror, QWidget* parent, std::string_view keys) {
   QWidget* const block = NewKeyBlock(parent);
   auto* const grid = static_cast<QGridLayout*>(block->layout());
-  const WidgetMaker make(mirror, block);
   for (int digit = 0; digit < kDigitsInARow * kDigitRows; ++digit) {
-    QWidget* const key = make.Make(keys, digit, ButtonShape::kKey);
-    if (key == nullptr) continue;
+    QWidget* const key = MakeKey(mirror, block, keys, digit);
     key->setMinimumWidth(DigitsWidth(*key, kKeyWidthInDigits));
     grid->addWidget(key, kDigitRows - 1 - digit / kDigitsInARow, digit % kDigitsInARow);
   }
   return block;
 }
 
-QWidget* MakeBigDigits(const WidgetMaker& make, std::string_view label) {
-  QWidget* const display = make.MakeBold(label);
-  if (display == nullptr) return nullptr;
+QWidget* MakeBigDigits(FormMirror& mirror, QWidget* parent, std::string_view label) {
+  QWidget* const display = MakeBold(mirror, parent, label);
   QFont font = display->font();
   font.setPointSizeF(font.pointSizeF() * kDisplayScale);
   display->setFont(font);

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <string_view>
 
-#include "window/widgets.h"
+#include "window/form_mirror.h"
 
 namespace quilla {
 
@@ -13,7 +13,7 @@ namespace quilla {
 QWidget* MakeKeypad(FormMirror& mirror, QWidget* parent, std::string_view keys);
 
 /// Makes a label with large digits.
-QWidget* MakeBigDigits(const WidgetMaker& make, std::string_view label);
+QWidget* MakeBigDigits(FormMirror& mirror, QWidget* parent, std::string_view label);
 
 /// An empty block for keys, laid out as a grid.
 QWidget* NewKeyBlock(QWidget* parent);

@@ -5,9 +5,9 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "window/bindings.h"
 #include "window/box_pages.h"
 #include "window/menus.h"
-#include "window/widgets.h"
 
 namespace quilla {
 namespace {
@@ -32,10 +32,10 @@ MainWindow::MainWindow(Gate& gate, EventLoop& event_loop, Form& form)
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(MakeHeadings());
-  column->addWidget(MakeTable(), 1);
+  column->addWidget(MakeProgramTable(), 1);
   column->addWidget(MakeBoxes());
   column->addWidget(MakeTipLine());
-  WidgetMaker(mirror_, content).MakeOutOfSight(kCancelButton);
+  MakeOutOfSight(mirror_, content, kCancelButton);
   setCentralWidget(content);
   for (QWidget* widget : findChildren<QWidget*>()) widget->setMouseTracking(true);
   mirror_.focus_home = [this] { FocusHome(); };
@@ -51,10 +51,10 @@ QWidget* MainWindow::MakeHeadings() {
   auto* const row = new QHBoxLayout(strip);
   row->setContentsMargins(0, 2, 0, 2);
   row->setSpacing(0);
-  const WidgetMaker make(mirror_, strip);
-  while (QWidget* const heading = make.MakeBold("HeadLabel", static_cast<int>(headings_.size()))) {
-    const auto& grid = static_cast<const Grid&>(*mirror_.form().Find(kTable));
-    const bool left = grid.ColAlignment(static_cast<int>(headings_.size())) == kAlignLeft;
+  const auto& grid = mirror_.Get<Grid>(kTable);
+  for (int column = 0; column < grid.Cols(); ++column) {
+    QWidget* const heading = MakeBold(mirror_, strip, "HeadLabel", column);
+    const bool left = grid.ColAlignment(column) == kAlignLeft;
     static_cast<QLabel*>(heading)->setAlignment(left ? Qt::AlignLeft : Qt::AlignHCenter);
     static_cast<QLabel*>(heading)->setMargin(2);
     row->addWidget(heading);
@@ -64,9 +64,8 @@ QWidget* MainWindow::MakeHeadings() {
   return strip;
 }
 
-QWidget* MainWindow::MakeTable() {
-  auto& grid = dynamic_cast<Grid&>(*mirror_.form().Find(kTable));
-  table_ = static_cast<GridView*>(WidgetMaker(mirror_, this).Make(grid));
+QWidget* MainWindow::MakeProgramTable() {
+  table_ = MakeTable(mirror_, this, kTable);
   table_->setFrameShape(QFrame::NoFrame);
   connect(table_, &GridView::ColumnsLaidOut, this, &MainWindow::AlignHeadings);
   return table_;
@@ -86,7 +85,7 @@ QWidget* MainWindow::MakeBoxes() {
     if (box == nullptr || box->name() == kTipsBox || box->name() == kWriteModeBox) continue;
     if (box->name() == kInstructionBox) {
       instructions_ = new InstructionPage(mirror_, boxes_);
-      mirror_.Bind(*box, *instructions_);
+      Bind(mirror_, *box, *instructions_);
       boxes_->Place(*instructions_);
     } else {
       boxes_->Add(*box,
@@ -114,12 +113,8 @@ QWidget* MainWindow::MakeStrip(const char* box, const char* heading, const char*
   auto* const row = new QHBoxLayout(strip);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(new QLabel(heading, strip));
-  if (QWidget* const text = WidgetMaker(mirror_, strip).MakeBold(label)) {
-    row->addWidget(text, stretch);
-  }
-  if (auto* const model = dynamic_cast<Box*>(mirror_.form().Find(box))) {
-    mirror_.Bind(*model, *strip);
-  }
+  row->addWidget(MakeBold(mirror_, strip, label), stretch);
+  Bind(mirror_, mirror_.Get<Box>(box), *strip);
   return strip;
 }
 

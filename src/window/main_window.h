@@ -1,5 +1,5 @@
-// The window of the main panel: menu bar, the program table with its headings, the place where
-// the input boxes open, and the tip line.
+// The window of the main panel: menu bar, the program table with its headings, the place where the
+// input boxes open, and the tip line.
 #ifndef QUILLA_WINDOW_MAIN_WINDOW_H_
 #define QUILLA_WINDOW_MAIN_WINDOW_H_
 
@@ -24,7 +24,7 @@ class MainWindow : public QMainWindow {
 
  private:
   QWidget* MakeHeadings();
-  QWidget* MakeTable();
+  QWidget* MakeProgramTable();
   QWidget* MakeBoxes();
   QWidget* MakeTipLine();
   QWidget* MakeStrip(const char* box, const char* heading, const char* label, int stretch);

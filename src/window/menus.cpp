@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "platform/button.h"
+#include "window/bindings.h"
 
 namespace quilla {
 
@@ -28,7 +29,7 @@ void BuildMenus(FormMirror& mirror, QMenuBar& menu_bar) {
     } else {
       action = new QAction(&place);
     }
-    mirror.Bind(*entry, *action);
+    Bind(mirror, *entry, *action);
     place.addAction(action);
   }
 }

@@ -2,7 +2,7 @@
 
 #include <QGridLayout>
 
-#include "window/widgets.h"
+#include "window/bindings.h"
 
 namespace quilla {
 namespace {
@@ -19,13 +19,12 @@ PrintInfoWindow::PrintInfoWindow(Gate& gate, EventLoop& event_loop, Form& form)
   auto* const grid = new QGridLayout(this);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   grid->setHorizontalSpacing(kColumnSpacing);
-  const WidgetMaker make(mirror_, this);
   int place = 0;
   // The form has its labels in pairs, a caption and its value.
   for (Control* control : form.controls()) {
     const bool is_value = place % kColumns != 0;
-    grid->addWidget(make.Make(*control), place / kColumns, place % kColumns,
-                    is_value ? Qt::AlignRight : Qt::AlignLeft);
+    grid->addWidget(Make(mirror_, this, control->name(), control->index()), place / kColumns,
+                    place % kColumns, is_value ? Qt::AlignRight : Qt::AlignLeft);
     ++place;
   }
   grid->setRowStretch(grid->rowCount(), 1);

@@ -3,9 +3,8 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 
-#include "window/box_page.h"
+#include "window/bindings.h"
 #include "window/keypad.h"
-#include "window/widgets.h"
 
 namespace quilla {
 namespace {
@@ -35,11 +34,10 @@ struct RenumberWindow::PageNames {
 RenumberWindow::RenumberWindow(Gate& gate, EventLoop& event_loop, Form& form)
     : QWidget(nullptr, Qt::Dialog), mirror_(gate, event_loop, form, *this) {
   setWindowModality(Qt::ApplicationModal);
-  const WidgetMaker make(mirror_, this);
   auto* const options = new QHBoxLayout;
   options->setSpacing(kSpacing);
-  options->addWidget(make.Make("LabelsOption"));
-  options->addWidget(make.Make("VariablesOption"));
+  options->addWidget(Make(mirror_, this, "LabelsOption"));
+  options->addWidget(Make(mirror_, this, "VariablesOption"));
   options->addStretch();
   auto* const pages = new QVBoxLayout;
   pages->addWidget(MakePage(
@@ -51,33 +49,31 @@ RenumberWindow::RenumberWindow(Gate& gate, EventLoop& event_loop, Form& form)
   grid->addLayout(options, 0, 0);
   grid->addLayout(pages, 1, 0, 2, 1);
   grid->addWidget(MakeDigitKeys(), 1, 1, Qt::AlignTop);
-  grid->addWidget(make.Make("DoneButton"), 2, 1, Qt::AlignBottom | Qt::AlignRight);
+  grid->addWidget(Make(mirror_, this, "DoneButton"), 2, 1, Qt::AlignBottom | Qt::AlignRight);
   grid->setRowStretch(1, 1);
 }
 
 QWidget* RenumberWindow::MakePage(const PageNames& names) {
   auto* const page = new QWidget(this);
-  const WidgetMaker make(mirror_, page);
   auto* const column = new QVBoxLayout(page);
   column->setContentsMargins(0, 0, 0, 0);
-  QWidget* const table = make.Make(names.table);
+  QWidget* const table = MakeTable(mirror_, page, names.table);
   table->setMinimumSize(DigitsWidth(*table, kTableWidthInDigits),
                         kTableRows * table->fontMetrics().lineSpacing());
   column->addWidget(table, 1);
 
   auto* const edit = new QWidget(page);
-  const WidgetMaker make_edit(mirror_, edit);
   auto* const row = new QHBoxLayout(edit);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(kSpacing);
-  row->addWidget(make_edit.MakeBold(names.name));
+  row->addWidget(MakeBold(mirror_, edit, names.name));
   row->addStretch();
-  row->addWidget(MakeBigDigits(make_edit, names.digits));
-  row->addWidget(make_edit.Make(names.accept));
+  row->addWidget(MakeBigDigits(mirror_, edit, names.digits));
+  row->addWidget(Make(mirror_, edit, names.accept));
   KeepPlace(*edit);
   column->addWidget(edit);
-  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find(names.box)), *edit);
-  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find(names.frame)), *page);
+  Bind(mirror_, mirror_.Get<Box>(names.box), *edit);
+  Bind(mirror_, mirror_.Get<Box>(names.frame), *page);
   return page;
 }
 
@@ -87,7 +83,7 @@ QWidget* RenumberWindow::MakeDigitKeys() {
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(MakeKeypad(mirror_, box, "NUM"));
   KeepPlace(*box);
-  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find("DigitBox")), *box);
+  Bind(mirror_, mirror_.Get<Box>("DigitBox"), *box);
   return box;
 }
 

@@ -6,7 +6,7 @@
 #include <QPainterPath>
 #include <QScreen>
 
-#include "window/widgets.h"
+#include "window/bindings.h"
 
 namespace quilla {
 namespace {
@@ -72,8 +72,8 @@ SplashWindow::SplashWindow(Gate& gate, EventLoop& event_loop, Form& form)
   palette.setColor(QPalette::WindowText, kPrint);
   auto* const column = new QVBoxLayout(this);
   column->addStretch();
-  const WidgetMaker make(mirror_, this);
-  for (QWidget* label : {make.MakeBold("DescriptionLabel"), make.Make("VersionLabel")}) {
+  for (QWidget* label :
+       {MakeBold(mirror_, this, "DescriptionLabel"), Make(mirror_, this, "VersionLabel")}) {
     if (label == nullptr) continue;
     label->setPalette(palette);
     column->addWidget(label, 0, Qt::AlignHCenter);

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLabel>
 
+#include "window/bindings.h"
 #include "window/keypad.h"
 
 namespace quilla {
@@ -28,7 +29,7 @@ void ShowRows(GridView& table, int rows) {
 }  // namespace
 
 WatchWindow::WatchWindow(Gate& gate, EventLoop& event_loop, Form& form)
-    : QWidget(nullptr, Qt::Window), mirror_(gate, event_loop, form, *this), make_(mirror_, this) {
+    : QWidget(nullptr, Qt::Window), mirror_(gate, event_loop, form, *this) {
   auto* const tables = new QHBoxLayout;
   tables->setSpacing(kGap);
   tables->addLayout(MakeTall("RegisterCaption", "RegisterTable", kRegisterWidth));
@@ -47,32 +48,32 @@ WatchWindow::WatchWindow(Gate& gate, EventLoop& event_loop, Form& form)
   column->addLayout(tables, 1);
 }
 
-GridView* WatchWindow::MakeTable(const char* name, int width_in_digits) {
-  auto* const table = static_cast<GridView*>(make_.Make(name));
+GridView* WatchWindow::MakeTableOfWidth(const char* name, int width_in_digits) {
+  GridView* const table = MakeTable(mirror_, this, name);
   table->setFixedWidth(DigitsWidth(*table, width_in_digits));
   return table;
 }
 
 QLayout* WatchWindow::MakeInstruction() {
-  GridView* const table = MakeTable("InstructionTable", kInstructionWidth);
+  GridView* const table = MakeTableOfWidth("InstructionTable", kInstructionWidth);
   ShowRows(*table, 1);
   auto* const line = new QHBoxLayout;
   line->setSpacing(kGap);
   line->addWidget(table);
-  line->addWidget(make_.Make("ExecuteButton"));
-  line->addWidget(make_.Make("StepNoteLabel"), 1);
+  line->addWidget(Make(mirror_, this, "ExecuteButton"));
+  line->addWidget(Make(mirror_, this, "StepNoteLabel"), 1);
   auto* const column = new QVBoxLayout;
-  column->addWidget(make_.MakeBold("InstructionCaption"));
+  column->addWidget(MakeBold(mirror_, this, "InstructionCaption"));
   column->addLayout(line);
   return column;
 }
 
 QBoxLayout* WatchWindow::MakeTall(const char* caption, const char* table_name,
                                   int width_in_digits) {
-  GridView* const table = MakeTable(table_name, width_in_digits);
+  GridView* const table = MakeTableOfWidth(table_name, width_in_digits);
   table->setMinimumHeight(kTallRows * table->verticalHeader()->defaultSectionSize());
   auto* const column = new QVBoxLayout;
-  column->addWidget(make_.MakeBold(caption));
+  column->addWidget(MakeBold(mirror_, this, caption));
   column->addWidget(table, 1);
   return column;
 }
@@ -80,24 +81,24 @@ QBoxLayout* WatchWindow::MakeTall(const char* caption, const char* table_name,
 QLayout* WatchWindow::MakePorts() {
   auto* const column = MakeTall("PortCaption", "PortTable", kCellWidth);
   auto* const force = new QGridLayout;
-  force->addWidget(make_.Make("PortAddrCaption"), 0, 0);
-  force->addWidget(make_.Make("ValueCaption"), 0, 1);
-  force->addWidget(make_.Make("PortAddrList"), 1, 0);
-  force->addWidget(make_.Make("ValueList"), 1, 1);
-  force->addWidget(make_.Make("ForceButton"), 2, 0, 1, 2);
+  force->addWidget(Make(mirror_, this, "PortAddrCaption"), 0, 0);
+  force->addWidget(Make(mirror_, this, "ValueCaption"), 0, 1);
+  force->addWidget(Make(mirror_, this, "PortAddrList"), 1, 0);
+  force->addWidget(Make(mirror_, this, "ValueList"), 1, 1);
+  force->addWidget(Make(mirror_, this, "ForceButton"), 2, 0, 1, 2);
   column->addLayout(force);
   return column;
 }
 
 QLayout* WatchWindow::MakeLines() {
-  GridView* const table = MakeTable("InterruptTable", kLineWidth);
+  GridView* const table = MakeTableOfWidth("InterruptTable", kLineWidth);
   auto* const keys = new QGridLayout;
   keys->setSpacing(0);
   keys->setRowMinimumHeight(0, table->horizontalHeader()->minimumHeight() + table->frameWidth());
   int line = 0;
   for (const char* arrow : {"TRAP", "RST75", "RST65", "RST55", "INTR"}) {
     // Each key stands on the level of its row.
-    QWidget* const key = make_.Make("IButton", ++line, ButtonShape::kKey);
+    QWidget* const key = MakeKey(mirror_, this, "IButton", ++line);
     key->setFixedHeight(key->sizeHint().height());
     table->verticalHeader()->setDefaultSectionSize(key->height());
     keys->addWidget(MakeArrow(arrow), line, 0);
@@ -110,7 +111,7 @@ QLayout* WatchWindow::MakeLines() {
   row->addWidget(table);
   row->addLayout(keys);
   auto* const column = new QVBoxLayout;
-  column->addWidget(make_.MakeBold("InterruptCaption"));
+  column->addWidget(MakeBold(mirror_, this, "InterruptCaption"));
   column->addLayout(row);
   return column;
 }
@@ -120,23 +121,22 @@ QWidget* WatchWindow::MakeArrow(const char* name) {
   auto* const layout = new QHBoxLayout(arrow);
   layout->setContentsMargins(4, 0, 4, 0);
   layout->addWidget(new QLabel(QStringLiteral("\u25C0"), arrow));
-  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find(name)), *arrow);
+  Bind(mirror_, mirror_.Get<Box>(name), *arrow);
   return arrow;
 }
 
 QWidget* WatchWindow::MakeStartingAddress() {
   auto* const box = new QWidget(this);
-  const WidgetMaker make(mirror_, box);
   auto* const line = new QHBoxLayout;
-  line->addWidget(make.Make("AddrCaption"));
-  line->addWidget(MakeBigDigits(make, "AddrLbl"));
+  line->addWidget(Make(mirror_, box, "AddrCaption"));
+  line->addWidget(MakeBigDigits(mirror_, box, "AddrLbl"));
   line->addStretch();
   auto* const column = new QVBoxLayout(box);
   column->setContentsMargins(0, 0, 0, 0);
   column->addLayout(line);
   column->addWidget(MakeKeypad(mirror_, box, "NUM"));
-  column->addWidget(make.Make("AcceptButton"));
-  mirror_.Bind(dynamic_cast<Box&>(*mirror_.form().Find("AddrBox")), *box);
+  column->addWidget(Make(mirror_, box, "AcceptButton"));
+  Bind(mirror_, mirror_.Get<Box>("AddrBox"), *box);
   return box;
 }
 

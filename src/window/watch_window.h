@@ -7,7 +7,7 @@
 #include <QWidget>
 
 #include "window/form_mirror.h"
-#include "window/widgets.h"
+#include "window/grid_view.h"
 
 namespace quilla {
 
@@ -26,10 +26,9 @@ class WatchWindow : public QWidget {
   /// The arrow from the key of an interrupt line to its row.
   QWidget* MakeArrow(const char* name);
   QWidget* MakeStartingAddress();
-  GridView* MakeTable(const char* name, int width_in_digits);
+  GridView* MakeTableOfWidth(const char* name, int width_in_digits);
 
   FormMirror mirror_;
-  WidgetMaker make_;
 };
 
 }  // namespace quilla

@@ -8,6 +8,9 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "platform/text_box.h"
+#include "platform/text_list.h"
+#include "window/grid_view.h"
 #include "window/qt_text.h"
 
 namespace quilla {

@@ -10,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "window/grid_view.h"
 #include "window/qt_text.h"
 #include "window/windows.h"
 

@@ -1,0 +1,37 @@
+// Where a key that is pressed in a window goes before the widget with the focus sees it: access
+// keys to their buttons, Enter and Esc to the default and the cancel button, characters to the
+// control that takes them.
+#ifndef QUILLA_WINDOW_KEY_ROUTER_H_
+#define QUILLA_WINDOW_KEY_ROUTER_H_
+
+#include "platform/button.h"
+
+class QAbstractButton;
+class QKeyEvent;
+
+namespace quilla {
+
+class FormMirror;
+
+class KeyRouter {
+ public:
+  explicit KeyRouter(FormMirror& mirror) : mirror_(mirror) {}
+
+  /// Whether a button on view has this access key, which is then the button's, not that of a menu.
+  bool IsAccessKey(const QKeyEvent& key) const { return ButtonOf(key) != nullptr; }
+  /// Acts on a key; false leaves it to the widget with the focus.
+  bool Press(const QKeyEvent& key);
+
+ private:
+  QAbstractButton* ButtonOf(const QKeyEvent& access_key) const;
+  bool ChooseButton(Button* button);
+  bool ClickFocusedButton();
+  bool PassCharacter(const QKeyEvent& key);
+  Control* KeyTaker() const;
+
+  FormMirror& mirror_;
+};
+
+}  // namespace quilla
+
+#endif  // QUILLA_WINDOW_KEY_ROUTER_H_

@@ -2,14 +2,14 @@
 
 #include <QBoxLayout>
 
+#include "window/bindings.h"
 #include "window/keypad.h"
-#include "window/widgets.h"
 
 namespace quilla {
 namespace {
 
 constexpr int kTableWidthInDigits = 40;
-constexpr int kTableRows = 22;
+constexpr int kTableRows = 28;
 constexpr int kOptions = 3;
 constexpr int kSpacing = 16;
 
@@ -18,21 +18,21 @@ constexpr int kSpacing = 16;
 DataWindow::DataWindow(Gate& gate, EventLoop& event_loop, Form& form)
     : QWidget(nullptr, Qt::Dialog), mirror_(gate, event_loop, form, *this) {
   setWindowModality(Qt::ApplicationModal);
-  const WidgetMaker make(mirror_, this);
-  QWidget* const table = make.Make("DataTable");
+  const auto make = [this](const char* name) { return Make(mirror_, this, name); };
+  GridView* const table = MakeTable(mirror_, this, "DataTable");
   table->setMinimumSize(DigitsWidth(*table, kTableWidthInDigits),
                         kTableRows * table->fontMetrics().lineSpacing());
   auto* const type = new QHBoxLayout;
-  type->addWidget(make.Make("Label5"));
-  type->addWidget(make.MakeBold("DataTypeLabel"), 1);
+  type->addWidget(make("Label5"));
+  type->addWidget(MakeBold(mirror_, this, "DataTypeLabel"), 1);
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();
-  buttons->addWidget(make.Make("DoneButton"));
-  buttons->addWidget(make.Make("CancelButton"));
+  buttons->addWidget(make("DoneButton"));
+  buttons->addWidget(make("CancelButton"));
   auto* const side = new QVBoxLayout;
   side->addLayout(type);
   for (int i = 0; i < kOptions; ++i) {
-    side->addWidget(make.Make("DataType", i), 0, Qt::AlignLeft);
+    side->addWidget(Make(mirror_, this, "DataType", i), 0, Qt::AlignLeft);
   }
   side->addStretch();
   side->addLayout(buttons);

@@ -1,6 +1,7 @@
 #include "robot/changes.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <set>
 #include <sstream>
 #include <utility>
@@ -17,6 +18,13 @@ namespace quilla::robot {
 namespace {
 
 constexpr const char* kNobody = "-";
+
+/// The colours that change where the cursor moves and nothing else does.
+std::string CursorMove(int from, int to) {
+  const std::string off = std::to_string(from) + ",2=own";
+  const std::string on = std::to_string(to) + ",2=cursor";
+  return "Table1 colors " + (from < to ? off + " " + on : on + " " + off) + "\n";
+}
 
 bool StandsInSight(const Control& control) {
   return control.container() == nullptr || control.container()->IsVisible();
@@ -207,7 +215,6 @@ void Changes::Begin() {
 }
 
 void Changes::Print(std::ostream& transcript) {
-  PrintVariables(transcript);
   std::vector<Form*> forms = quilla_.Forms();
   std::erase_if(forms, [](const Form* form) { return !form->visible(); });
   // In order of their names, so that it does not matter in which order they were made.
@@ -216,7 +223,10 @@ void Changes::Print(std::ostream& transcript) {
     controls[NameOf(*form)] = form;
     for (Control* const control : form->controls()) controls[NameOf(*control)] = control;
   }
-  PrintTables(transcript, controls);
+  std::ostringstream tables;
+  const bool cursor_moved = PrintTables(tables, controls);
+  PrintVariables(transcript, cursor_moved);
+  transcript << tables.str();
   News news;
   for (const auto& [name, control] : controls) {
     if (StandsInSight(*control)) news.Compare(name, looks_[name], LookOf(*control));
@@ -246,18 +256,22 @@ void Changes::Add(WrappedLine& line, std::string& before, const Form& form,
   before = std::move(now);
 }
 
-void Changes::PrintVariables(std::ostream& transcript) {
+void Changes::PrintVariables(std::ostream& transcript, bool cursor_moved) {
   WrappedLine line(transcript, "session:");
   const Session& session = quilla_.panel()->session();
-  // A selection of one row is told as one.
+  const auto tell = [&](const char* as, const std::string& value,
+                        std::initializer_list<const char*> names) {
+    line.Add(std::string(as).append("=").append(value));
+    for (const char* name : names) variables_[name] = value;
+  };
+  // A selection of one row is told as one, and with the cursor if that has come to the row.
   const std::string top = std::to_string(session.SelectionTop);
   const bool is_one_row = session.SelectionTop == session.SelectionBottom;
-  std::string& top_before = variables_["SelectionTop"];
-  std::string& bottom_before = variables_["SelectionBottom"];
-  if (is_one_row && (top_before != top || bottom_before != top)) {
-    line.Add("Selection=" + top);
-    top_before = top;
-    bottom_before = top;
+  if (cursor_moved && is_one_row && session.CurrentRow == session.SelectionTop) {
+    tell("Cursor", top, {"CurrentRow", "SelectionTop", "SelectionBottom"});
+  } else if (is_one_row &&
+             (variables_["SelectionTop"] != top || variables_["SelectionBottom"] != top)) {
+    tell("Selection", top, {"SelectionTop", "SelectionBottom"});
   }
   for (const auto& [name, value] : VariablesOf(session)) {
     if (variables_[name] == value) continue;
@@ -266,7 +280,7 @@ void Changes::PrintVariables(std::ostream& transcript) {
   }
 }
 
-void Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control*>& controls) {
+bool Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control*>& controls) {
   struct Table {
     std::string name;
     TableRecord* before;
@@ -284,15 +298,28 @@ void Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control
       if (IsTold(*list)) compare(name, *list);
     }
   }
+  const Session& session = quilla_.panel()->session();
+  const bool is_selected =
+      session.SelectionTop == session.CurrentRow && session.SelectionBottom == session.CurrentRow;
+  const std::string cursor_move =
+      is_selected ? CursorMove(std::stoi(variables_["CurrentRow"]), session.CurrentRow) : "-";
+  bool cursor_moved = false;
   std::ostringstream lists;
   std::ostringstream rows;
   std::ostringstream colors;
   for (Table& table : changed) {
     table.before->PrintTexts(table.now.Columns() == 1 ? lists : rows, table.name, table.now);
-    table.before->PrintColors(colors, table.name + " colors", table.now);
+    std::ostringstream own_colors;
+    table.before->PrintColors(own_colors, table.name + " colors", table.now);
+    if (own_colors.str() == cursor_move) {
+      cursor_moved = true;
+    } else {
+      colors << own_colors.str();
+    }
     *table.before = std::move(table.now);
   }
   transcript << Joined(lists.str()) << Joined(rows.str()) << Joined(colors.str());
+  return cursor_moved;
 }
 
 }  // namespace quilla::robot

@@ -50,8 +50,11 @@ class Changes {
   /// their boxes are hidden.
   bool IsTold(const TextList& list);
 
-  void PrintVariables(std::ostream& transcript);
-  void PrintTables(std::ostream& transcript, const std::map<Name, Control*>& controls);
+  /// `cursor_moved` if the mark of the cursor has gone with it, and nothing else has another
+  /// colour.
+  void PrintVariables(std::ostream& transcript, bool cursor_moved);
+  /// Says whether that is so.
+  bool PrintTables(std::ostream& transcript, const std::map<Name, Control*>& controls);
   /// Adds the name of the control with the focus, or the default button, if it is in sight and
   /// another one than before.
   void Add(WrappedLine& line, std::string& before, const Form& form, const Control* control);

@@ -12,8 +12,8 @@ caption: TipsLabel="Program Mode."
 > click ExistingPlaceOption ; pick PlaceCombo 1 ; enter ; cell Table1 4 0
 > click ExistingPlaceOption ; enter ; cell Table1 5 0 ; type PlaceText blank ; enter ; escape
 > click AssignAddress ; settle ; changes
-session: Selection=8 CurrentRow=8 LastLine=7 FileChanged=1 SelectionAnchor=6 ClickedRow=5
-    SelectedInstruction=2 CurrentOpcode=1
+session: Cursor=8 LastLine=7 FileChanged=1 SelectionAnchor=6 ClickedRow=5 SelectedInstruction=2
+    CurrentOpcode=1
 LabelCombo 0="five" 1="two" 2="none" 3="blank" | LabelEqtList 0="8006" 1="8000" 2..3="XXXX"
 LabelLineList 0="4" 1="1" 2="0" 3="5" | LabelPlacedList 0..1="1" 2="0" 3="1"
 LabelUsedList 0..2="1" 3="0" | LastAddressList 0="800C"
@@ -25,7 +25,6 @@ Table1 4 "five" "8006" "DFB" "5A" "Data Byte." | 5 "blank"
 Table1 6 - "8007" "CALL  two" "CD   00   80" "Call sub-routine pointed by 'two'."
 Table1 7 - "800A" "LXI  B,  none" "01   XX   XX"
     "Load the equivalent of 'none' into BC-register pair."
-Table1 colors 1,2=own 8,2=cursor
 # Once more gives the same.
 > click AssignAddress ; settle ; changes
 # Two blocks may touch but not share an address: 8000 to 8003 and an empty block at 8004, whose end
@@ -104,18 +103,16 @@ caption: TipsLabel="Assigning Addresses . . ." | enabled: PasteEdit
 > answer no ; click NewFile ; row "JMP n" ; click PasteEdit ; click AssignAddress ; settle ; changes
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
 box critical "The string 'n' is used as both label and variable." ok -> ok
-session: Selection=3 CurrentRow=3 SelectionAnchor=0 SelectedInstruction=37 CurrentOpcode=195
+session: Cursor=3 SelectionAnchor=0 SelectedInstruction=37 CurrentOpcode=195
 LabelCombo count=2 (1 in at 0) 0="n" | LabelEqtList 1="XXXX"
 LabelLineList count=2 (1 in at 0) 0="0" 1="2" | LabelPlacedList count=2 (1 in at 0) 0="0"
 LabelUsedList count=2 (1 in at 0) 0="1"
 Table1 1 "" - "JMP  n" "C3   XX   XX" "Jump to address pointed by 'n'."
-Table1 colors 2,2=own 3,2=cursor
 == origins
 # The display of a new origin starts at 0000, shifts left and keeps four digits.
 > row NOP ; click NewOrigin ; key NumberAcceptButton 12 ; click NUM 3 ; click NUM 10 ; changes
-session: Selection=2 PanelState=28 CurrentRow=2 FileChanged=1 SelectedInstruction=78
+session: Cursor=2 PanelState=28 FileChanged=1 SelectedInstruction=78
 Table1 1 - - "NOP" "00" "No Operation."
-Table1 colors 1,2=own 2,2=cursor
 caption: DataTypeLabel="Address" NumberLabel="123A"
     TipsLabel="Enter starting address of the Origin and Click 'Accept', or press 'Esc' to quit."
 shown: NumberBox | hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/*
@@ -184,15 +181,14 @@ session: MessageResult="1"
 > row "MVI A,count" "IN port" ; path eqt.baf ; click SaveFile ; click EqtOption ; changes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "eqt.baf"
 open RenumberDialog
-session: Selection=3 CurrentRow=3 LastLine=2 FileOrigin=3 FileChanged=1 SelectedInstruction=47
-    CurrentOpcode=219 FileName="eqt.baf" ProjectPath="eqt.baf"
+session: Cursor=3 LastLine=2 FileOrigin=3 FileChanged=1 SelectedInstruction=47 CurrentOpcode=219
+    FileName="eqt.baf" ProjectPath="eqt.baf"
 StringTable 1="count" 2="port" | XXCombo 0="count" 1="port" | XXEqtList 0..1="XX"
 Table1 1 - - "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' into Accumulator."
 Table1 2 - - "IN   port" "DB   XX"
     "Receive content from port address pointed by 'port' and store in Accumulator."
 RenumberDialog.LabelTable rows=1 | 0 "Label" "Current" "New" | RenumberDialog.VariableTable rows=3
 RenumberDialog.VariableTable 0 "Label" "Current" "New" | 1 "count" "XX" "XX" | 2 "port" "XX" "XX"
-Table1 colors 1,2=own 3,2=cursor
 caption: ProgrammingPanel="Brelvanor Quilla - eqt.baf" TipsLabel="File Saved."
 hidden: RenumberDialog.DigitBox RenumberDialog.LabelFrame RenumberDialog.XXBox
 disabled: RenumberDialog.LabelsOption | checked: RenumberDialog.VariablesOption
@@ -222,7 +218,7 @@ Table1 1 - - - "3E   0F"
 # Both kinds: labels first, and a page change keeps what is open on the other page.
 > row "JMP loop" "CALL sub" "LXI H,loop" "XRI count" ; click EqtOption ; changes
 open RenumberDialog
-session: Selection=7 CurrentRow=7 LastLine=6 SelectedInstruction=28 CurrentOpcode=238
+session: Cursor=7 LastLine=6 SelectedInstruction=28 CurrentOpcode=238
 LabelCombo 0="loop" 1="sub" | LabelEqtList 0..1="XXXX" | LabelLineList 0..1="0"
 LabelPlacedList 0..1="0" | LabelUsedList 0..1="1" | StringTable 3="loop" 4="sub" 5="loop" 6="count"
 Table1 3 - - "JMP  loop" "C3   XX   XX" "Jump to address pointed by 'loop'."
@@ -231,7 +227,6 @@ Table1 5 - - "LXI  H,  loop" "21   XX   XX" "Load the equivalent of 'loop' into 
 Table1 6 - - "XRI   count" "EE   0F" "XOR the equivalent of 'count' with content of Accumulator."
 RenumberDialog.LabelTable rows=3 | 1 "loop" "XXXX" "XXXX" | 2 "sub" "XXXX" "XXXX"
 RenumberDialog.VariableTable 1 - "0F" "0F" | 2 - - "XX"
-Table1 colors 3,2=own 7,2=cursor
 caption: TipsLabel="Program Mode." | shown: RenumberDialog.LabelFrame
 hidden: RenumberDialog.EqtBox RenumberDialog.VariableFrame | enabled: RenumberDialog.LabelsOption
 checked: RenumberDialog.LabelsOption | unchecked: RenumberDialog.VariablesOption
@@ -273,9 +268,8 @@ Table1 2 - - - "DB   78" | 3 - - - "C3   5A   34" | 4 - - - "CD   10   80" | 5 -
 > click EqtOption ; click RenumberDialog.DoneButton ; changes
 open RenumberDialog
 closed RenumberDialog
-session: Selection=4 CurrentRow=4 SelectionAnchor=3
+session: Cursor=4 SelectionAnchor=3
 Table1 3 - - "DFB" "99" "Data Byte."
-Table1 colors 4,2=cursor 7,2=own
 # A label that stands on a row gets its address over the number that was typed.
 > click PlaceLabelTool ; cell Table1 5 0 ; click ExistingPlaceOption ; enter
 > click PlaceDoneButton ; click AssignAddress ; settle ; changes

@@ -8,7 +8,7 @@ caption: TipsLabel="Assembling aborted."
 > row "LDA far" "ANI mask" "ADI gone" ; cell Table1 3 2 ; row NOP ; click AssembleFile ; changes
 box information "Unused strings have been deleted." ok -> ok
 box critical "One or more strings do not have an equivalent assigned." ok -> ok
-session: Selection=4 CurrentRow=4 LastLine=3 FileChanged=1 SelectionAnchor=3 SelectedInstruction=78
+session: Cursor=4 LastLine=3 FileChanged=1 SelectionAnchor=3 SelectedInstruction=78
     SavedCells(2)="ADI   gone" SavedCells(3)="C6   XX"
     SavedCells(4)="Add the equivalent of 'gone' to content of Accumulator." SavedCells(5)="gone"
 LabelCombo 0="far" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
@@ -18,7 +18,6 @@ Table1 1 - "8000" "LDA  far" "3A   XX   XX"
     "Load Accumulator with content from address pointed by 'far'."
 Table1 2 - "8003" "ANI   mask" "E6   XX" "AND the equivalent of 'mask' with content of Accumulator."
 Table1 3 - "8005" "NOP" "00" "No Operation."
-Table1 colors 1,2=own 4,2=cursor
 > click PlaceLabelTool ; cell Table1 3 0 ; click ExistingPlaceOption ; enter ; escape
 > click AssembleFile ; changes
 box information "Unused strings have been deleted." ok -> ok
@@ -29,10 +28,9 @@ Table1 1 - - - "3A   05   80" | 3 "far"
 # An address beyond FFFF ends it with the words of the address assignment.
 > cell Table1 0 0 ; key NumberAcceptButton fffd ; enter ; click AssembleFile ; changes
 box critical "Compile error. Invalid address in origin FFFDh." ok -> ok
-session: Selection=2 CurrentRow=2 AddressError=-1 ClickedRow=0
+session: Cursor=2 AddressError=-1 ClickedRow=0
 LastAddressList count=0 | OriginList 0="FFFD"
 Table1 0..1 - "FFFD"
-Table1 colors 2,2=cursor 4,2=own
 caption: TipsLabel="Assigning addresses . . ."
 # 16 bytes make one full record and no rest: 10+80+00+00 + 00+01+..+0F = 90+78 = 108, of which the
 # low byte is 08, 100-08 = F8. 17 make a second one at 8010: 01+80+10+00 + 10 = A1, 100-A1 = 5F.

@@ -3,11 +3,9 @@
 > cell Table1 3 0 ; cell Table1 3 1 ; cell Table1 3 3 ; cell Table1 3 4 ; cell Table1 0 1
 > cell Table1 0 3 ; cell Table1 0 4 ; changes
 > cell Table1 5 2 ; changes
-session: Selection=5 CurrentRow=5 SelectionAnchor=5
-Table1 colors 1,2=own 5,2=cursor
+session: Cursor=5 SelectionAnchor=5
 > cell Table1 0 2 ; changes
-session: Selection=1 CurrentRow=1 SelectionAnchor=1
-Table1 colors 1,2=cursor 5,2=own
+session: Cursor=1 SelectionAnchor=1
 # A press on row 0 counts as one on row 1, so a drag from there to row 1 is a plain click.
 > cell Table1 4 2 ; drag Table1 0 2 1 2 ; changes
 > drag Table1 0 2 4 2 ; changes
@@ -24,13 +22,12 @@ session: SelectionTop=3 SelectionBottom=6 SelectionAnchor=3
 # An Opcode cell starts its instruction afresh; Esc gives the row back, comment and all.
 > row NOP "MOV A,B" RNC "RST 3" ; click EntryMode ; key DataAcceptButton 3F
 > click DataAcceptButton ; click EntryMode ; cell Table1 2 3 ; changes
-session: Selection=2 PanelState=9 CurrentRow=2 LastLine=5 FileChanged=1 EntryPending=1
-    CurrentOpcode=64 SavedCells(2)="MOV  A,  B" SavedCells(3)="78"
+session: Cursor=2 PanelState=9 LastLine=5 FileChanged=1 EntryPending=1 CurrentOpcode=64
+    SavedCells(2)="MOV  A,  B" SavedCells(3)="78"
     SavedCells(4)="Move content of B-register into Accumulator."
 Table1 1 - - "NOP" "00" "No Operation." | 2 - - "MOV" | 3 - - "RNC" "D0" "Return on no carry."
 Table1 4 - - "RST 3" "DF" "Restart#3 (Call sub-routine at address 0018H)."
 Table1 5 - - "DFB" "3F" "Data Byte."
-Table1 colors 1,2=own 2,2=cursor
 caption: TipsLabel="Select Register or Memory (Destination)." | shown: RegisterBox
 hidden: InstructionBox | disabled: EditMenu/* FileMenu/* REG 8..9 ToolsMenu/* | focus: RegisterBox
 > escape ; changes
@@ -41,15 +38,13 @@ enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceE
 # The first restart number is taken as it was entered; a NOP cannot be entered again; RNC becomes
 # HLT.
 > cell Table1 4 3 ; key NumberFocusButton 5 ; cell Table1 1 3 ; cell Table1 3 3 ; changes
-session: Selection=4 CurrentRow=4 SelectedInstruction=79 CurrentOpcode=118 SavedCells(2)="RNC"
-    SavedCells(3)="D0" SavedCells(4)="Return on no carry."
+session: Cursor=4 SelectedInstruction=79 CurrentOpcode=118 SavedCells(2)="RNC" SavedCells(3)="D0"
+    SavedCells(4)="Return on no carry."
 Table1 3 - - "HLT" "76" "Halt program execution."
 Table1 4 - - "RST 5" "EF" "Restart#5 (Call sub-routine at address 0028H)."
-Table1 colors 2,2=own 4,2=cursor
 # On a data byte the cursor goes there and the entry mode changes; and back.
 > cell Table1 5 3 ; changes
-session: Selection=5 PanelState=29 CurrentRow=5
-Table1 colors 4,2=own 5,2=cursor
+session: Cursor=5 PanelState=29
 caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
 focus: DataAcceptButton | default: DataAcceptButton
 > cell Table1 5 3 ; changes
@@ -58,10 +53,9 @@ caption: EntryMode="Data &Mode" TipsLabel="Program Mode." | shown: InstructionBo
 # In data mode an Opcode cell starts its instruction too; register keys end in state 1, but the
 # mode is data mode still, as the end of the next task shows. Selecting works there as well.
 > cell Table1 5 3 ; cell Table1 1 3 ; cell Table1 2 3 ; click REG 7 ; click REG 1 ; changes
-session: Selection=3 CurrentRow=3 SelectedInstruction=0 CurrentOpcode=121 SavedCells(2)="MOV  A,  B"
+session: Cursor=3 SelectedInstruction=0 CurrentOpcode=121 SavedCells(2)="MOV  A,  B"
     SavedCells(3)="78" SavedCells(4)="Move content of B-register into Accumulator."
 Table1 2 - - "MOV  A,  C" "79" "Move content of C-register into Accumulator."
-Table1 colors 3,2=cursor 5,2=own
 caption: EntryMode="Program &Mode"
 > cell Table1 0 0 ; escape ; cell Table1 4 2 ; drag Table1 3 2 2 2 ; changes
 session: PanelState=29 CurrentRow=4 SelectionTop=2
@@ -71,13 +65,12 @@ caption: TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
 # row of the cursor.
 > click EntryMode ; cell Table1 6 2 ; row "JMP go" ; click EntryMode ; cell Table1 6 3
 > type LabelText stay ; click LabelAcceptButton ; changes
-session: Selection=7 CurrentRow=7 LastLine=6 EntryPending=1 SelectionAnchor=6 SelectedInstruction=37
+session: Cursor=7 LastLine=6 EntryPending=1 SelectionAnchor=6 SelectedInstruction=37
     CurrentOpcode=195 SavedCells(2)="JMP  go" SavedCells(3)="C3   XX   XX"
     SavedCells(4)="Jump to address pointed by 'go'." SavedCells(5)="go"
 LabelCombo 0="go" 1="stay" | LabelEqtList 0..1="XXXX" | LabelLineList 0..1="0"
 LabelPlacedList 0..1="0" | LabelUsedList 0="0" 1="1" | StringTable 6="stay"
 Table1 6 - - "JMP  stay" "C3   XX   XX" "Jump to address pointed by 'stay'."
-Table1 colors 4,2=own 7,2=cursor
 > escape ; click EntryMode ; changes
 session: PanelState=1 LastLine=7 EntryPending=0
 StringTable 7="go"

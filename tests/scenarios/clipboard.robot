@@ -102,8 +102,8 @@ open RenumberDialog
 > key RenumberDialog.XXAcceptButton 0f ; enter ; click RenumberDialog.DoneButton
 closed RenumberDialog
 > drag Table1 1 2 2 2 ; click CopyEdit ; cell Table1 5 2 ; click PasteEdit ; changes
-session: Selection=7 CurrentRow=7 LastLine=4 FileChanged=1 SelectionAnchor=5 ClickedRow=1
-    SelectedInstruction=1 CurrentOpcode=6
+session: Cursor=7 LastLine=4 FileChanged=1 SelectionAnchor=5 ClickedRow=1 SelectedInstruction=1
+    CurrentOpcode=6
 EditStringTable 0="loop" 1="count" | LabelCombo 0="loop" | LabelEqtList 0="8000"
 LabelLineList 0="1" | LabelPlacedList 0="1" | LabelUsedList 0="1" | LastAddressList 0="8004"
 StringTable rows=34 (2 in at 1) 1="loop" 2="count" 5="loop" 6="count" | XXCombo 0="count"
@@ -116,16 +116,14 @@ Table1 1 "loop" "8000" "JNZ  loop" "C2   00   80" "Jump on no zero, to address p
 Table1 2 - "8003" "MVI  B,   count" "06   0F" "Move the equivalent of 'count' into B-register."
 Table1 5 "loop" - "JNZ  loop" "C2   00   80" "Jump on no zero, to address pointed by 'loop'."
 Table1 6 - - "MVI  B,   count" "06   0F" "Move the equivalent of 'count' into B-register."
-Table1 colors 1,2=own 7,2=cursor
 caption: TipsLabel="Completed pasting." | enabled: PasteEdit
 > answer no ; click NewFile ; click PasteEdit ; changes
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
-session: Selection=3 CurrentRow=3 LastLine=3 SelectionAnchor=0 MessageResult="7"
+session: Cursor=3 LastLine=3 SelectionAnchor=0 MessageResult="7"
 EditStringTable 0="a1" | LabelCombo 1="a1" | LabelEqtList count=2 (1 in at 0) 0="XXXX"
 LabelLineList 1="0" | LabelPlacedList 1="0" | LabelUsedList count=2 (1 in at 0) 0="0"
 LastAddressList count=0 | StringTable 1="a1" 5..6=""
 EditTable 0 - - "JNZ  a1" | Table1 1 - "" "JNZ  a1" | 2 - "" | 5 "" - "" "" "" | 6 - - "" "" ""
-Table1 colors 3,2=cursor 7,2=own
 # The same clipboard again finds all of its strings as they are.
 > click PasteEdit ; changes
 session: Selection=5 CurrentRow=5 LastLine=5
@@ -185,12 +183,11 @@ EditTable rows=1 (1 out at 0) | 0 - - "DFB" "3F" "Data Byte." | Table1 rows=32 (
 Table1 1 - - "DFB" "3F" "Data Byte." | 3 ""
 caption: TipsLabel="Completed copying."
 > cell Table1 4 2 ; click PasteEdit ; changes
-session: Selection=5 CurrentRow=5 LastLine=2 SelectionAnchor=4
+session: Cursor=5 LastLine=2 SelectionAnchor=4
 EditStringTable 0="a4" | LabelCombo 1="a4" | LabelEqtList 1="" | LabelLineList 1="0"
 LabelPlacedList 1="0" | LabelUsedList count=2 (1 in at 0) 0..1="0"
 StringTable rows=33 (1 in at 4) 4="a4"
 EditTable 0 - - "Da4" | Table1 rows=33 (1 in at 5) | 4 - - "Da4" "3F" "Data Byte."
-Table1 colors 1,2=own 5,2=cursor
 caption: TipsLabel="Completed pasting."
 # The cursor that comes to stand on an origin: after a deletion, after a paste, and again with Esc.
 > answer no ; click NewFile ; cell Table1 4 2 ; click NewOrigin ; key NumberAcceptButton 9000

@@ -1,7 +1,5 @@
 # Reading: a cancel, no such file, a file without an end record (twice: its channel is closed), a
 # sum of bytes that reads as a decimal number, and the question about unsaved changes.
-open OpenForm
-closed OpenForm
 > nopath ; click DisassembleFile ; show TipsLabel ; path none.hex ; click DisassembleFile
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> cancel
 TipsLabel caption="New File." enabled=1 visible=1
@@ -69,18 +67,13 @@ DataDialog.DataTable 1 "0000" "00" "Unwanted"
 > click DataDialog.DoneButton ; click DataDialog.CancelButton ; show TipsLabel ; settle ; changes
 closed DataDialog
 TipsLabel caption="Data Mode." enabled=1 visible=1
-session: PanelState=29 CurrentRow=2 FileChanged=1 SelectionTop=2 SelectionBottom=2
-    SelectedInstruction=79 CurrentOpcode=118 HexPath="image.hex" HexTitle="image.hex"
-    MessageResult="7"
-HexList count=5 0=":020000040000FA" 1=":100FFD003E1218C3FD0FC2FD0F3E12210410320028"
-    2=":03100D002008D0E8" 3=":05200000DEE60F763E54" 4=":00000001FF"
+session: Cursor=2 PanelState=29 FileChanged=1 SelectedInstruction=79 CurrentOpcode=118
+    HexPath="image.hex" HexTitle="image.hex" MessageResult="7"
+HexList 0=":020000040000FA" 1=":100FFD003E1218C3FD0FC2FD0F3E12210410320028" 2=":03100D002008D0E8"
+    3=":05200000DEE60F763E54" 4=":00000001FF"
 Table1 1 - - "HLT" "76" "Halt program execution."
-Table1 colors 1,2=own 2,2=cursor
-caption: EntryMode="Program &Mode" TipsLabel="Data Mode."
-shown: DataBox
-hidden: InstructionBox
-focus: DataAcceptButton
-default: DataAcceptButton
+caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
+focus: DataAcceptButton | default: DataAcceptButton
 # An undefined opcode; then operands that are not there, unwanted, or data. The dialog stays, and so
 # do the origins of the checks that failed, until it opens again.
 > click EntryMode ; path image.hex ; answer no ; click DisassembleFile ; click DataDialog.DataType 1
@@ -124,36 +117,28 @@ TipsLabel caption="Adding Comments . . ." enabled=1 visible=1
 Table1 0 "Origin" "0FFD" "" "" ""
 Table1 1 "a0" "0FFD" "MVI  A,  v0" "3E   12" ""
 closed DataDialog
-session: PanelState=1 CurrentRow=1 LastLine=19 FileOrigin=4 SelectionTop=1 SelectionBottom=1
-    NextLabelNumber=3 NextVariableNumber=3
-LabelCombo count=3 0="a0" 1="a1" 2="a2"
-LabelEqtList count=3 0="0FFD" 1="1004" 2="2000"
-LastAddressList count=3 0="100D" 1="100F" 2="2004"
+session: Selection=1 PanelState=1 CurrentRow=1 LastLine=19 FileOrigin=4 NextLabelNumber=3
+    NextVariableNumber=3
+LabelCombo 0="a0" 1="a1" 2="a2" | LabelEqtList 0="0FFD" 1="1004" 2="2000"
+LastAddressList 0="100D" 1="100F" 2="2004"
 OriginList count=3 (2 in at 0) 0="0FFD" 1="100F" 2="2000"
 StringTable rows=29 (3 out at 1) 1="v0" 3..4="a0" 5="v1" 6="a1" 7="a2" 16="v2"
-Table1 rows=29 (3 out at 0)
-Table1 0 "Origin" "0FFD"
+XXCombo 0="v0" 1="v1" 2="v2" | XXEqtList 0..1="12" 2="0F"
+Table1 rows=29 (3 out at 0) | 0 "Origin" "0FFD"
 Table1 1 "a0" "0FFD" "MVI  A,  v0" "3E   12" "Move the equivalent of 'v0' into Accumulator."
-Table1 2 - "0FFF" "-" "18"
-Table1 3 - "1000" "JMP  a0" "C3   FD   0F" "Jump to address pointed by 'a0'."
+Table1 2 - "0FFF" "-" "18" | 3 - "1000" "JMP  a0" "C3   FD   0F" "Jump to address pointed by 'a0'."
 Table1 4 - "1003" "JNZ  a0" "C2   FD   0F" "Jump on no zero, to address pointed by 'a0'."
 Table1 5 - "1006" "MVI  A,  v1" "3E   12" "Move the equivalent of 'v1' into Accumulator."
 Table1 6 - "1008" "LXI  H,  a1" "21   04   10" "Load the equivalent of 'a1' into HL-register pair."
 Table1 7 - "100B" "STA   a2" "32   00   20"
-    "Store content of Accumulator in address pointed by 'a2'."
-Table1 10 "Origin" "100F"
-Table1 11 - "100F" "RNC " "D0" "Return on no carry."
-Table1 14 "Origin" "2000"
+    "Store content of Accumulator in address pointed by 'a2'." | 10 "Origin" "100F"
+Table1 11 - "100F" "RNC " "D0" "Return on no carry." | 14 "Origin" "2000"
 Table1 15 "a2" "2000" "DFB" "DE" "Data Byte."
 Table1 16 - "2001" "ANI  v2" "E6   0F" "AND the equivalent of 'v2' with content of Accumulator."
-Table1 17 - "2003" "HLT" "76" "Halt program execution."
-Table1 18 - "2004" "DFB" "3E" "Data Byte."
-XXCombo count=3 0="v0" 1="v1" 2="v2"
-XXEqtList count=3 0..1="12" 2="0F"
+Table1 17 - "2003" "HLT" "76" "Halt program execution." | 18 - "2004" "DFB" "3E" "Data Byte."
 Table1 colors 0,0..4=E0E0E0 1,2=cursor 10,0..4=E0E0E0 14,0..4=E0E0E0
 caption: EntryMode="Data &Mode" TipsLabel="Disassembling completed successfully."
-shown: InstructionBox
-hidden: DataBox
+shown: InstructionBox | hidden: DataBox
 # The origins of a failed check are laid out again: one falls on a row with an instruction.
 > answer no ; path image.hex ; click DisassembleFile ; click DataDialog.DataType 1
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
@@ -216,19 +201,13 @@ dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "top.hex"
 open DataDialog
 > click DataDialog.DoneButton ; settle ; changes
 closed DataDialog
-session: CurrentRow=11 LastLine=2 SelectionTop=11 SelectionBottom=11 SelectionAnchor=31
-    HexPath="top.hex" HexTitle="top.hex" NextLabelNumber=0 NextVariableNumber=0
+session: Selection=11 CurrentRow=11 LastLine=2 SelectionAnchor=31 HexPath="top.hex"
+    HexTitle="top.hex" NextLabelNumber=0 NextVariableNumber=0
 HexList count=4 (1 out at 0) 0=":03FFFF00003AC9FC" 1=":02100000C376B5" 2=":01100200ae3F"
-LabelCombo count=0
-LabelEqtList count=0
-LastAddressList count=1 (2 out at 0) 0="FFFF"
-OriginList count=1 (2 out at 0) 0="FFFF"
-StringTable rows=12 (17 out at 1)
-Table1 rows=12 (17 out at 0)
-Table1 0 "Origin" "FFFF" "" "" ""
-Table1 1 - "FFFF" "NOP" "00" "No Operation."
-XXCombo count=0
+LabelCombo count=0 | LabelEqtList count=0 | LastAddressList count=1 (2 out at 0) 0="FFFF"
+OriginList count=1 (2 out at 0) 0="FFFF" | StringTable rows=12 (17 out at 1) | XXCombo count=0
 XXEqtList count=0
+Table1 rows=12 (17 out at 0) | 0 "Origin" "FFFF" "" "" "" | 1 - "FFFF" "NOP" "00" "No Operation."
 Table1 colors 0,0..4=E0E0E0
 # A file without bytes has nothing to check, and marks that were taken back leave no program.
 > answer no ; path empty.hex ; click DisassembleFile ; changes ; click DataDialog.DataType 1
@@ -237,12 +216,10 @@ dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "empty.hex"
 open DataDialog
 session: HexPath="empty.hex" HexTitle="empty.hex"
 HexList count=1 (3 out at 0)
-DataDialog.DataTable rows=1
-DataDialog.DataTable 0 "Address" "Data" "Category"
+DataDialog.DataTable rows=1 | 0 "Address" "Data" "Category"
 caption: DataDialog="Disassemble Dialog - empty.hex"
     TipsLabel="Select the mnemonics && data bytes and click 'Done', or click 'Cancel'."
-    DataDialog.DataTypeLabel="Unwanted"
-disabled: DataDialog.DoneButton
+    DataDialog.DataTypeLabel="Unwanted" | disabled: DataDialog.DoneButton
 checked: DataDialog.DataType 2
 > cell DataDialog.DataTable 0 0 ; click DataDialog.DoneButton ; settle ; dump DataDialog.DataTable
 DataDialog.DataTable 0 "Address" "Data" "Category"
@@ -257,8 +234,6 @@ TipsLabel caption=" Disassembling Opcodes . . ." enabled=1 visible=1
 closed DataDialog
 session: CurrentRow=7 LastLine=-2 HexPath="top.hex" HexTitle="top.hex"
 HexList count=4 (3 in at 0) 0=":03FFFF00003AC9FC" 1=":02100000C376B5" 2=":01100200ae3F"
-LastAddressList count=0
-OriginList 0=""
-StringTable rows=8
+LastAddressList count=0 | OriginList 0="" | StringTable rows=8
 Table1 rows=8 (4 out at 0)
 caption: TipsLabel=" Disassembling Opcodes . . ."

@@ -18,19 +18,17 @@ refused REG disabled
 refused REG disabled
 > key RegisterBox mm ; click REG 6 ; changes
 refused REG disabled
-session: Selection=5 PanelState=10 CurrentRow=5 LastLine=3 SelectedInstruction=0 CurrentOpcode=112
+session: Cursor=5 PanelState=10 LastLine=3 SelectedInstruction=0 CurrentOpcode=112
 Table1 1 - - "DAD  SP" "39" "Add content of stack pointer to content of HL-register pair."
 Table1 2 - - "PUSH  PSW" "F5" "Store content of Accumulator and flag register in top of stack."
 Table1 3 - - "LDAX  D" "1A" "Load Accumulator with content in address pointed by DE-register pair."
 Table1 4 - - "ADD  A" "87" "Add content of Accumulator to content of Accumulator." | 5 - - "MOV  M,"
-Table1 colors 1,2=own 5,2=cursor
 caption: TipsLabel="Select Register or Memory (Source)." | enabled: REG 1,3,5,7 | disabled: REG 8
 > key RegisterBox L ; click INST 0 ; click REG 7 ; click REG 6 ; changes
-session: Selection=7 PanelState=1 CurrentRow=7 LastLine=6 EntryPending=0 CurrentOpcode=126
+session: Cursor=7 PanelState=1 LastLine=6 EntryPending=0 CurrentOpcode=126
 Table1 5 - - "MOV  M,  L" "75"
     "Move content of L-register into address pointed by HL-register pair." | 6 - - "MOV  A,  M" "7E"
     "Move content of address pointed by HL-register pair into Accumulator."
-Table1 colors 5,2=own 7,2=cursor
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: RegisterBox
 enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
 # The number of RST: only the keys 0 to 7, no accepting. A digit follows the pointer.
@@ -46,9 +44,8 @@ hidden: InstructionBox | disabled: EditMenu/* FileMenu/* NUM 8..15 NumberAcceptB
 focus: NumberFocusButton
 > key NumberFocusButton 89afx ; enter ; click NUM 5 ; changes
 refused LabelAcceptButton disabled
-session: Selection=8 PanelState=1 CurrentRow=8 LastLine=7 EntryPending=0 CurrentOpcode=239
+session: Cursor=8 PanelState=1 LastLine=7 EntryPending=0 CurrentOpcode=239
 Table1 7 - - "RST 5" "EF" "Restart#5 (Call sub-routine at address 0028H)."
-Table1 colors 7,2=own 8,2=cursor
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: NumberBox
 enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
 # Hints: the name and its operand forms, until the pointer is elsewhere.
@@ -64,24 +61,22 @@ hidden: InstructionBox | enabled: REG 6 | disabled: EditMenu/* FileMenu/* ToolsM
 focus: RegisterBox
 > hover Table1 3 2 ; changes
 > hover ProgrammingPanel ; click REG 3 ; changes
-session: Selection=9 PanelState=1 CurrentRow=9 LastLine=8 EntryPending=0 CurrentOpcode=29
+session: Cursor=9 PanelState=1 LastLine=8 EntryPending=0 CurrentOpcode=29
 Table1 8 - - "DCR  E" "1D" "Decrement content of E-register."
-Table1 colors 8,2=own 9,2=cursor
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: RegisterBox
 enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
 # Esc gives back what the row held, at every stage of an entry, but never its label.
 > click PlaceLabelTool ; cell Table1 1 0 ; type PlaceText here ; enter ; escape
 > row "JMP there" ; cell Table1 7 2 ; row "MVI C,n" ; cell Table1 7 2 ; click INST 0
 > key RegisterBox b ; changes
-session: Selection=7 PanelState=10 CurrentRow=7 EntryPending=1 SelectionAnchor=7 ClickedRow=1
-    SelectedInstruction=0 CurrentOpcode=64 SavedCells(2)="MVI  C,   n" SavedCells(3)="0E   XX"
+session: Cursor=7 PanelState=10 EntryPending=1 SelectionAnchor=7 ClickedRow=1 SelectedInstruction=0
+    CurrentOpcode=64 SavedCells(2)="MVI  C,   n" SavedCells(3)="0E   XX"
     SavedCells(4)="Move the equivalent of 'n' into C-register." SavedCells(5)="n"
 LabelCombo 0="here" 1="there" | LabelEqtList 0..1="XXXX" | LabelLineList 0="1" 1="0"
 LabelPlacedList 0="1" 1="0" | LabelUsedList 0="0" 1="1" | StringTable 9="there" | XXCombo 0="n"
 XXEqtList 0="XX"
 Table1 1 "here" | 7 - - "MOV  B," "" ""
 Table1 9 - - "JMP  there" "C3   XX   XX" "Jump to address pointed by 'there'."
-Table1 colors 7,2=cursor 9,2=own
 caption: RegisterLabel="" TipsLabel="Select Register or Memory (Source)." | shown: RegisterBox
 hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/*
 > escape ; click INST 1 ; click REG 0 ; escape ; changes
@@ -98,24 +93,21 @@ session: PanelState=29
 caption: DataLabel="3F" EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox
 hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
 > enter ; changes
-session: Selection=2 CurrentRow=2
+session: Cursor=2
 Table1 1 - - "DFB" "3F" "Data Byte."
-Table1 colors 1,2=own 2,2=cursor
 caption: DataLabel="00"
 > key DataAcceptButton aBc ; click DataNum 1 ; click DataAcceptButton ; enter ; changes
-session: Selection=4 CurrentRow=4
+session: Cursor=4
 Table1 2 - - "DFB" "C1" "Data Byte." | 3 - - "DFB" "00" "Data Byte."
-Table1 colors 2,2=own 4,2=cursor
 > click NewFile
 # Among instructions: overwriting one keeps the operand string of its row, which counts no more.
 > row "ADI n" ; cell Table1 1 2 ; click EntryMode ; key DataAcceptButton 7 ; enter
 > click EntryMode ; click DeleteUnusedLabels ; changes
 box information "Unused strings have been deleted." ok -> ok
-session: Selection=2 PanelState=1 CurrentRow=2 FileChanged=1 SelectionAnchor=1
-    SelectedInstruction=15 CurrentOpcode=198 MessageResult="1"
+session: Cursor=2 PanelState=1 FileChanged=1 SelectionAnchor=1 SelectedInstruction=15
+    CurrentOpcode=198 MessageResult="1"
 StringTable 1="n"
 Table1 1 - - - "07" | 2..3 - - "" "" ""
-Table1 colors 2,2=cursor 4,2=own
 caption: EntryMode="Data &Mode" TipsLabel="Program Mode." | shown: InstructionBox | hidden: DataBox
 == growth
 # The table keeps ten rows ahead of the cursor: it begins to grow with row 22.
@@ -184,10 +176,9 @@ session: Selection=2 CurrentRow=2 LastLine=7 SelectedInstruction=72 CurrentOpcod
 StringTable rows=35
 Table1 rows=35 (1 in at 1) | 1 - - "DI" "F3" "Disable interrupts."
 > cell Table1 34 2 ; changes
-session: Selection=34 CurrentRow=34 LastLine=8 SelectionAnchor=34
+session: Cursor=34 LastLine=8 SelectionAnchor=34
 StringTable rows=44
 Table1 rows=44 (9 in at 26)
-Table1 colors 2,2=own 34,2=cursor
 # Going over to Insert opens a line at the cursor, going back moves nothing.
 > cell Table1 4 2 ; click WriteMode ; changes
 session: Selection=4 CurrentRow=4 LastLine=9 SelectionAnchor=4
@@ -223,10 +214,9 @@ caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: RegisterBox
 enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
 # In data mode the line opens at once, too.
 > click EntryMode ; cell Table1 9 2 ; click WriteMode ; key DataAcceptButton ab ; enter ; changes
-session: Selection=10 PanelState=29 CurrentRow=10 LastLine=15 SelectionAnchor=9
+session: Cursor=10 PanelState=29 LastLine=15 SelectionAnchor=9
 StringTable rows=51
 Table1 rows=51 (2 in at 9) | 9 - - "DFB" "AB" "Data Byte."
-Table1 colors 1,2=own 10,2=cursor
 caption: EntryMode="Program &Mode" TipsLabel="Data Mode." WriteModeLabel="Insert" | shown: DataBox
 hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
 == comments

@@ -1,7 +1,5 @@
 # The line to the trainer. A download that ends before it begins: no file chosen, none there, sums
 # that end in 12, in 1F, in one digit, a record too short for its count.
-open OpenForm
-closed OpenForm
 > click DownloadFile ; changes
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> cancel
 > path none.hex ; click DownloadFile ; show TipsLabel ; path decimal.hex ; click DownloadFile
@@ -22,7 +20,7 @@ box critical "Check Sum error in short.hex." ok -> ok
 # The user changes his mind at the prompt: the records stay, and the port stays closed.
 > changes ; path good.hex ; click DownloadFile ; settle ; changes
 session: HexPath="short.hex" HexTitle="short.hex" MessageResult="1"
-HexList count=2 0=":018000007F" 1=":00000001FF"
+HexList 0=":018000007F" 1=":00000001FF"
 caption: TipsLabel="Program Mode."
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> cancel
@@ -42,11 +40,8 @@ sent ":0080000080"
 sent ":018000007609"
 sent ":00000001FF"
 session: PanelState=29 PortOpen=1 MessageResult="1"
-caption: EntryMode="Program &Mode" TipsLabel="Download completed."
-shown: DataBox
-hidden: InstructionBox
-focus: DataAcceptButton
-default: DataAcceptButton
+caption: EntryMode="Program &Mode" TipsLabel="Download completed." | shown: DataBox
+hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
 port close
 session: PortOpen=0
 # A port that is missing or broken. Broken, it was open, and is taken for open still.
@@ -56,11 +51,8 @@ dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
 box critical "Comm4 is not available or already in use. Please assign another port for serial communication." ok -> ok
 session: PanelState=1 CommPortNumber=4 MSComm1.CommPort=4
-caption: EntryMode="Data &Mode" TipsLabel="Download incomplete."
-shown: InstructionBox
-hidden: DataBox
-checked: PortOption 3
-unchecked: PortOption 0
+caption: EntryMode="Data &Mode" TipsLabel="Download incomplete." | shown: InstructionBox
+hidden: DataBox | checked: PortOption 3 | unchecked: PortOption 0
 > path good.hex ; click DownloadFile ; answer ok ; settle ; changes ; escape ; changes
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
@@ -70,8 +62,7 @@ rts 1
 box critical "Unable to download." ok -> ok
 port close
 session: PortOpen=1 CommPortNumber=2 MSComm1.CommPort=2
-checked: PortOption 1
-unchecked: PortOption 3
+checked: PortOption 1 | unchecked: PortOption 3
 session: PortOpen=0
 caption: TipsLabel="Program Mode."
 # An upload that the user does not want, on a port that is broken, and on one that is in use.
@@ -101,8 +92,7 @@ TipsLabel caption="Select Row, Enter Comments and Click 'Done', or Click 'Cancel
 port close
 > changes
 session: CommPortNumber=1 MSComm1.CommPort=1
-checked: PortOption 0
-unchecked: PortOption 1
+checked: PortOption 0 | unchecked: PortOption 1
 # While one upload waits, neither another nor a download gets the port. What comes in pieces is one
 # text. The file is downloaded as it was saved.
 > answer ok ; click UploadFile

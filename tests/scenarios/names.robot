@@ -21,21 +21,19 @@ refused LabelAcceptButton disabled
 refused LabelAcceptButton disabled
 refused LabelAcceptButton disabled
 > clear LabelText ; type LabelText abcdefg ; enter ; changes
-session: Selection=2 PanelState=1 CurrentRow=2 EntryPending=0
+session: Cursor=2 PanelState=1 EntryPending=0
 LabelCombo 0="abcdef" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
 LabelUsedList 0="1" | StringTable 1="abcdef"
 Table1 1 - - "JMP  abcdef" "C3   XX   XX" "Jump to address pointed by 'abcdef'."
-Table1 colors 1,2=own 2,2=cursor
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: LabelBox
 enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
 > click INST 15 ; type XXText 9 ; enter ; clear XXText ; type XXText a` ; enter ; clear XXText
 refused XXAcceptButton disabled
 refused XXAcceptButton disabled
 > type XXText z9z9z9z9 ; enter ; changes
-session: Selection=3 CurrentRow=3 LastLine=2 SelectedInstruction=15 CurrentOpcode=198
+session: Cursor=3 LastLine=2 SelectedInstruction=15 CurrentOpcode=198
 StringTable 2="z9z9z9" | XXCombo 0="z9z9z9" | XXEqtList 0="XX"
 Table1 2 - - "ADI   z9z9z9" "C6   XX" "Add the equivalent of 'z9z9z9' to content of Accumulator."
-Table1 colors 2,2=own 3,2=cursor
 # Taken, as a label or as a variable: told in the words of the box, the text is emptied, the box
 # stays; another name does it.
 > click INST 49 ; type LabelText abcdef ; enter ; changes
@@ -49,21 +47,19 @@ disabled: EditMenu/* FileMenu/* LabelAcceptButton ToolsMenu/*
 box critical "String already used as Label or Variable. Please enter another label." ok -> ok
 > enter ; changes
 box critical "String already present as Label or Variable. Please enter another string." ok -> ok
-session: Selection=4 PanelState=2 CurrentRow=4 LastLine=3 SelectedInstruction=47 CurrentOpcode=219
+session: Cursor=4 PanelState=2 LastLine=3 SelectedInstruction=47 CurrentOpcode=219
 LabelCombo 1="xx" | LabelEqtList 1="XXXX" | LabelLineList 1="0" | LabelPlacedList 1="0"
 LabelUsedList 1="1" | StringTable 3="xx"
 Table1 3 - - "CALL  xx" "CD   XX   XX" "Call sub-routine pointed by 'xx'." | 4 - - "IN" "DB"
-Table1 colors 3,2=own 4,2=cursor
 caption: TipsLabel="Enter 8-bit number and click 'Accept'." | text: XXCombo="z9z9z9" | shown: XXBox
 hidden: LabelBox XXDoneButton XXFindButton XXReplaceButton | disabled: XXAcceptButton XXCombo
 checked: NewXXOption | focus: XXText | default: XXAcceptButton
 > type XXText z9z9z9 ; click XXAcceptButton ; type XXText x ; enter ; changes
 box critical "String already present as Label or Variable. Please enter another string." ok -> ok
-session: Selection=5 PanelState=1 CurrentRow=5 LastLine=4 EntryPending=0
+session: Cursor=5 PanelState=1 LastLine=4 EntryPending=0
 StringTable 4="x" | XXCombo 1="x" | XXEqtList 1="XX"
 Table1 4 - - "IN   x" "DB   XX"
     "Receive content from port address pointed by 'x' and store in Accumulator."
-Table1 colors 4,2=own 5,2=cursor
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: XXBox
 enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
 # Known names: the first one is offered each time; the choice makes the other input idle.
@@ -82,10 +78,9 @@ checked: NewLabelOption | unchecked: ExistingLabelOption | focus: LabelText
 text: LabelCombo="abcdef" | enabled: LabelAcceptButton LabelCombo | disabled: LabelText
 checked: ExistingLabelOption | unchecked: NewLabelOption | focus: LabelCombo
 > pick LabelCombo 1 ; enter ; click INST 38 ; changes
-session: Selection=6 CurrentRow=6 LastLine=5 SelectedInstruction=38 CurrentOpcode=226
+session: Cursor=6 LastLine=5 SelectedInstruction=38 CurrentOpcode=226
 StringTable 5="xx"
 Table1 5 - - "JMP  xx" "C3   XX   XX" "Jump to address pointed by 'xx'." | 6 - - "JPO" "E2"
-Table1 colors 5,2=own 6,2=cursor
 enabled: LabelText | disabled: LabelAcceptButton LabelCombo | checked: NewLabelOption
 unchecked: ExistingLabelOption | focus: LabelText
 > escape ; click INST 48 ; type XXText q ; click ExistingXXOption ; pick XXCombo 1
@@ -95,10 +90,9 @@ Table1 6 - - "OUT" "D3"
 caption: TipsLabel="Enter 8-bit number and click 'Accept'." | text: XXCombo="x" | shown: XXBox
 hidden: LabelBox | focus: XXText | default: XXAcceptButton
 > click ExistingXXOption ; pick XXCombo 1 ; enter ; changes
-session: Selection=7 PanelState=1 CurrentRow=7 EntryPending=0
+session: Cursor=7 PanelState=1 EntryPending=0
 StringTable 6="x"
 Table1 6 - - "OUT   x" "D3   XX" "Send content of Accumulator to port address pointed by 'x'."
-Table1 colors 6,2=own 7,2=cursor
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: XXBox
 enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
 # A name whose number is known gives its bytes at once.
@@ -108,29 +102,26 @@ open RenumberDialog
 > cell RenumberDialog.VariableTable 2 0 ; key RenumberDialog.XXAcceptButton 0f ; enter
 > click RenumberDialog.DoneButton ; cell Table1 7 2 ; row "JPO xx" "CPI x" ; changes
 closed RenumberDialog
-session: Selection=9 CurrentRow=9 LastLine=8 SelectionAnchor=7 ClickedRow=4 SelectedInstruction=36
-    CurrentOpcode=254
+session: Cursor=9 LastLine=8 SelectionAnchor=7 ClickedRow=4 SelectedInstruction=36 CurrentOpcode=254
 LabelEqtList 1="8008" | LabelLineList 1="4" | LabelPlacedList 1="1" | LastAddressList 0="800E"
 StringTable 7="xx" 8="x" | XXEqtList 1="0F"
 Table1 1 - "8000" | 2 - "8003" | 3 - "8005" - "CD   08   80" | 4 "xx" "8008" - "DB   0F"
 Table1 5 - "800A" - "C3   08   80" | 6 - "800D" - "D3   0F"
 Table1 7 - - "JPO  xx" "E2   08   80" "Jump on odd parity, to address pointed by 'xx'."
 Table1 8 - - "CPI   x" "FE   0F" "Compare the equivalent of 'x' with content of Accumulator."
-Table1 colors 7,2=own 9,2=cursor
 # Overwritten rows leave their names behind until they are cleared away; the others keep their
 # order. A label counts as used by a row of three bytes, as placed on any row but an origin; a
 # variable as used by a row of two bytes. The box comes in any case.
 > cell Table1 1 2 ; row NOP ; cell Table1 2 2 ; row "MOV B,C" ; click DeleteUnusedLabels ; changes
 box information "Unused strings have been deleted." ok -> ok
-session: Selection=3 CurrentRow=3 SelectionAnchor=2 SelectedInstruction=0 CurrentOpcode=65
-    SavedCells(1)="8003" SavedCells(2)="ADI   z9z9z9" SavedCells(3)="C6   XX"
+session: Cursor=3 SelectionAnchor=2 SelectedInstruction=0 CurrentOpcode=65 SavedCells(1)="8003"
+    SavedCells(2)="ADI   z9z9z9" SavedCells(3)="C6   XX"
     SavedCells(4)="Add the equivalent of 'z9z9z9' to content of Accumulator." SavedCells(5)="z9z9z9"
 LabelCombo count=1 (1 out at 0) | LabelEqtList count=1 (1 out at 0)
 LabelLineList count=1 (1 out at 0) | LabelPlacedList count=1 (1 out at 0) | LabelUsedList count=1
 StringTable 1..2="" | XXCombo count=1 (1 out at 0) | XXEqtList count=1 (1 out at 0)
 Table1 1 - "" "NOP" "00" "No Operation."
 Table1 2 - "" "MOV  B,  C" "41" "Move content of C-register into B-register."
-Table1 colors 3,2=cursor 9,2=own
 > click DeleteUnusedLabels ; changes
 box information "Unused strings have been deleted." ok -> ok
 == placement

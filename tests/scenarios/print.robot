@@ -193,8 +193,8 @@ box information "Unused strings have been deleted." ok -> ok
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
 page PrintLabelPanel "Pgm1.baf" "" 2 2
 line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
-session: Selection=5 CurrentRow=5 LastLine=4 SelectionAnchor=4 SelectedInstruction=6
-    CurrentOpcode=50 ProjectPath="sum.baf" MessageResult="1"
+session: Cursor=5 LastLine=4 SelectionAnchor=4 SelectedInstruction=6 CurrentOpcode=50
+    ProjectPath="sum.baf" MessageResult="1"
 LabelCombo 0="a" 1="b" 2="c" | LabelEqtList 0..2="XXXX" | LabelLineList 0..2="0"
 LabelPlacedList 0..2="0" | LabelUsedList 0..2="1" | StringTable 1="a" 2="b" 3="v0" 4="c"
 XXCombo 0="v0" | XXEqtList 0="XX"
@@ -202,7 +202,6 @@ Table1 1 - "8000" "JMP  a" "C3   XX   XX" "Jump to address pointed by 'a'."
 Table1 2 - "8003" "CALL  b" "CD   XX   XX" "Call sub-routine pointed by 'b'."
 Table1 3 - "8006" "ADI   v0" "C6   XX" "Add the equivalent of 'v0' to content of Accumulator."
 Table1 4 - "8008" "STA  c" "32   XX   XX" "Store content of Accumulator in address pointed by 'c'."
-Table1 colors 2,2=own 5,2=cursor
 caption: TipsLabel="Composing print information." | checked: PageOption 2 | unchecked: PageOption 0
 # An overflow in a later block goes unseen; in the first it stops the print, and the panel with it.
 > click NewOrigin ; key NumberAcceptButton FFFF ; click NumberAcceptButton ; row NOP NOP ; click PageOption 0

@@ -9,8 +9,8 @@ caption: TipsLabel="Program Mode."
 > click ExistingPlaceOption ; enter ; click PlaceDoneButton ; click CommentsTool ; cell Table1 3 4
 > clear CommentsTxt ; type CommentsTxt "Größe, конец, 終" ; click CommentDoneButton
 > click AssignAddress ; settle ; changes
-session: Selection=4 CurrentRow=4 LastLine=3 FileChanged=1 ClickedRow=3 SelectedInstruction=79
-    CurrentOpcode=118 SavedComment="Halt program execution."
+session: Cursor=4 LastLine=3 FileChanged=1 ClickedRow=3 SelectedInstruction=79 CurrentOpcode=118
+    SavedComment="Halt program execution."
 LabelCombo 0="loop" | LabelEqtList 0="8005" | LabelLineList 0="3" | LabelPlacedList 0="1"
 LabelUsedList 0="1" | LastAddressList 0="8005" | StringTable 1="count" 2="loop" | XXCombo 0="count"
 XXEqtList 0="XX"
@@ -18,22 +18,19 @@ Table1 1 - "8000" "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' in
 Table1 2 - "8002" "JMP  loop" "C3   05   80" "Jump to address pointed by 'loop'."
 Table1 3 "loop" "8005" "HLT" "76"
     "Gr\xC3\xB6\xC3\x9Fe, \xD0\xBA\xD0\xBE\xD0\xBD\xD0\xB5\xD1\x86, \xE7\xB5\x82"
-Table1 colors 1,2=own 4,2=cursor
 > path program.txt ; click SaveFile ; changes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.txt"
 session: FileOrigin=3 FileChanged=0 FileName="program.txt" ProjectPath="program.baf"
 Table1 1..3 - ""
 caption: ProgrammingPanel="Brelvanor Quilla - program.txt" TipsLabel="File Saved."
 > row NOP ; click SaveFile ; changes
-session: Selection=5 CurrentRow=5 LastLine=4 SelectedInstruction=78 CurrentOpcode=0
+session: Cursor=5 LastLine=4 SelectedInstruction=78 CurrentOpcode=0
 Table1 4 - - "NOP" "00" "No Operation."
-Table1 colors 4,2=own 5,2=cursor
 # The same file opened has the same rows and strings; what the lists say of labels comes later.
 > path program.baf ; click OpenFile ; changes
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.baf"
-session: Selection=1 CurrentRow=1 LastLine=1 FileOrigin=2 FileName="program.baf"
+session: Cursor=1 LastLine=1 FileOrigin=2 FileName="program.baf"
 LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0 | LastAddressList count=0
-Table1 colors 1,2=cursor 5,2=own
 caption: ProgrammingPanel="Brelvanor Quilla - program.baf" TipsLabel="File Opened."
 > click FindLabel ; escape ; changes
 session: LastLine=3
@@ -50,13 +47,12 @@ caption: ProgrammingPanel="Brelvanor Quilla - mypro.baf" TipsLabel="File Opened.
 > row RIM ; path abc ; click SaveAsFile ; changes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "abc"
 box critical "Unable to save file." ok -> ok
-session: Selection=2 CurrentRow=2 LastLine=2 FileChanged=1 SelectedInstruction=74 CurrentOpcode=32
+session: Cursor=2 LastLine=2 FileChanged=1 SelectedInstruction=74 CurrentOpcode=32
     SavedCells(2)="MVI  A,   count" SavedCells(3)="3E   XX"
     SavedCells(4)="Move the equivalent of 'count' into Accumulator." SavedCells(5)="count"
     FileName="abc" ProjectPath="abc" MessageResult="1"
 StringTable 1=""
 Table1 1 - - "RIM" "20" "Reset interrupt mask."
-Table1 colors 1,2=own 2,2=cursor
 caption: TipsLabel="Program Mode."
 > path absent/new.baf ; click SaveAsFile ; click SaveFile ; path folder.txt ; click SaveAsFile
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "absent/new.baf"

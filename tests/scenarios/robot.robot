@@ -82,8 +82,7 @@ ended
 # Nothing differs at the start, nor right after the differences are told. Whole rows by their keys.
 > changes
 > row "MOV  A , M" "MVI M,x" "LXI SP,p" "LXI B , p" "RST 7" "PUSH PSW" "STAX D" "IN x" RNC ; changes
-session: Selection=10 CurrentRow=10 LastLine=9 FileChanged=1 SelectedInstruction=64
-    CurrentOpcode=208
+session: Cursor=10 LastLine=9 FileChanged=1 SelectedInstruction=64 CurrentOpcode=208
 LabelCombo 0="p" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
 LabelUsedList 0="1" | StringTable 2="x" 3..4="p" 8="x" | XXCombo 0="x" | XXEqtList 0="XX"
 Table1 1 - - "MOV  A,  M" "7E"
@@ -98,7 +97,6 @@ Table1 7 - - "STAX  D" "12" "Store content of Accumulator in address pointed by 
 Table1 8 - - "IN   x" "DB   XX"
     "Receive content from port address pointed by 'x' and store in Accumulator."
 Table1 9 - - "RNC" "D0" "Return on no carry."
-Table1 colors 1,2=own 10,2=cursor
 caption: TipsLabel="Program Mode."
 > changes
 # A refusal is that of the press, and ends the row; what a hidden box holds waits until it is seen.
@@ -119,10 +117,9 @@ caption: TipsLabel="Enter Label and click 'Accept'." | text: LabelCombo="p" | sh
 hidden: XXBox | disabled: LabelAcceptButton LabelCombo | checked: NewLabelOption | focus: LabelText
 default: LabelAcceptButton
 > escape ; row "JMP p" ; click PlaceLabelTool ; type PlaceText ";" ; changes
-session: Selection=11 PanelState=16 CurrentRow=11 EntryPending=0
+session: Cursor=11 PanelState=16 EntryPending=0
 PlaceCombo 0="p" | StringTable 10="p"
 Table1 10 - - "JMP  p" "C3   XX   XX" "Jump to address pointed by 'p'."
-Table1 colors 10,2=own 11,2=cursor
 caption: TipsLabel="Select Row, Enter Label and Click 'Place'; or Click 'Cancel'."
 text: PlaceCombo="p" PlaceText=";" | shown: PlaceBox | hidden: LabelBox
 disabled: PlaceAcceptButton PlaceCombo | checked: NewPlaceOption | focus: PlaceText

@@ -7,8 +7,7 @@ open RenumberDialog
 > key RenumberDialog.XXAcceptButton 3 ; click RenumberDialog.XXAcceptButton
 > click RenumberDialog.DoneButton ; click SimulationView ; tick 9 ; changes
 closed RenumberDialog
-session: Selection=5 CurrentRow=5 LastLine=4 FileChanged=1 ClickedRow=2 SelectedInstruction=79
-    CurrentOpcode=118
+session: Cursor=5 LastLine=4 FileChanged=1 ClickedRow=2 SelectedInstruction=79 CurrentOpcode=118
 LabelCombo 0="loop" | LabelEqtList 0="8002" | LabelLineList 0="2" | LabelPlacedList 0="1"
 LabelUsedList 0="1" | LastAddressList 0="8006" | StringTable 1="count" 3="loop" | XXCombo 0="count"
 XXEqtList 0="03"
@@ -16,7 +15,6 @@ Table1 1 - "8000" "MVI  B,   count" "06   03" "Move the equivalent of 'count' in
 Table1 2 "loop" "8002" "DCR  B" "05" "Decrement content of B-register."
 Table1 3 - "8003" "JNZ  loop" "C2   02   80" "Jump on no zero, to address pointed by 'loop'."
 Table1 4 - "8006" "HLT" "76" "Halt program execution."
-Table1 colors 1,2=own 5,2=cursor
 caption: TipsLabel="Program Mode."
 > tick 1 ; changes
 open WatchWindowDialog
@@ -146,8 +144,7 @@ open RenumberDialog
 closed RenumberDialog
 > click SimulationView ; settle ; changes
 open WatchWindowDialog
-session: Selection=13 PanelState=29 CurrentRow=13 LastLine=11 FileChanged=1 SelectedInstruction=72
-    CurrentOpcode=243
+session: Cursor=13 PanelState=29 LastLine=11 FileChanged=1 SelectedInstruction=72 CurrentOpcode=243
 LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n" | XXCombo 0="p" 1="q" 2="m" 3="n"
 XXEqtList 0..1="05".."06" 2="1D" 3="0A"
 Table1 1 - "8000" "IN   p" "DB   05"
@@ -177,7 +174,7 @@ WatchWindowDialog.RegisterTable 3 "C" "00" | 4 "BC" "0000" | 5 "D" "00" | 6 "E" 
 WatchWindowDialog.RegisterTable 8 "H" "00" | 9 "L" "00" | 10 "HL" "0000" | 11 "M(0000)" "00"
 WatchWindowDialog.RegisterTable 12 "SP" "FF00" | 13 "PC" "0000" | 14 "Zero" "0" | 15 "Sign" "0"
 WatchWindowDialog.RegisterTable 16 "Parity" "0" | 17 "Carry" "0" | 18 "Aux. Carry" "0"
-Table1 colors 1,2=own 13,2=cursor | WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
+WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
 caption: EntryMode="Program &Mode" TipsLabel="Preparing for simulation..."
     WatchWindowDialog.AddrLbl="0000"
 text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00" | shown: DataBox

@@ -8,11 +8,10 @@ hidden: InstructionBox XXDoneButton XXFindButton XXReplaceButton
 disabled: EditMenu/* ExistingXXOption FileMenu/* ToolsMenu/* XXAcceptButton XXCombo
 checked: NewXXOption | focus: XXText | default: XXAcceptButton
 > type XXText v ; enter ; click INST 10 ; changes
-session: Selection=2 PanelState=3 CurrentRow=2 SelectedInstruction=10 CurrentOpcode=128
+session: Cursor=2 PanelState=3 SelectedInstruction=10 CurrentOpcode=128
 StringTable 1="v" | XXCombo 0="v" | XXEqtList 0="XX"
 Table1 1 - - "ADI   v" "C6   XX" "Add the equivalent of 'v' to content of Accumulator."
 Table1 2 - - "ADD"
-Table1 colors 1,2=own 2,2=cursor
 caption: TipsLabel="Select Register or Memory." | shown: RegisterBox | hidden: XXBox
 disabled: REG 8..9 | focus: RegisterBox
 > escape ; click INST 37 ; changes
@@ -22,11 +21,10 @@ caption: TipsLabel="Enter Label and click 'Accept'." | shown: LabelBox | hidden:
 disabled: ExistingLabelOption LabelAcceptButton LabelCombo | checked: NewLabelOption
 focus: LabelText | default: LabelAcceptButton
 > type LabelText l ; enter ; click INST 14 ; changes
-session: Selection=3 PanelState=5 CurrentRow=3 SelectedInstruction=14 CurrentOpcode=9
+session: Cursor=3 PanelState=5 SelectedInstruction=14 CurrentOpcode=9
 LabelCombo 0="l" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
 LabelUsedList 0="1" | StringTable 2="l"
 Table1 2 - - "JMP  l" "C3   XX   XX" "Jump to address pointed by 'l'." | 3 - - "DAD"
-Table1 colors 2,2=own 3,2=cursor
 caption: TipsLabel="Select Register Pair." | shown: RegisterBox | hidden: LabelBox | enabled: REG 8
 disabled: REG 1,3,5..7 | focus: RegisterBox
 > escape ; click INST 2 ; click REG 0 ; changes
@@ -192,16 +190,14 @@ enabled: EditMenu/* FileMenu/* ToolsMenu/* | focus: DataAcceptButton | default: 
 box question "Save changes to Pgm1.baf?" yesnocancel -> cancel
 box question "Save changes to Pgm1.baf?" yesnocancel -> yes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> cancel
-session: Selection=2 CurrentRow=2 FileChanged=1 SelectedInstruction=78 MessageResult="6"
+session: Cursor=2 FileChanged=1 SelectedInstruction=78 MessageResult="6"
 Table1 1 - - "NOP" "00" "No Operation."
-Table1 colors 1,2=own 2,2=cursor
 caption: TipsLabel="Program Mode."
 > answer yes ; path one.baf ; click NewFile ; changes
 box question "Save changes to Pgm1.baf?" yesnocancel -> yes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "one.baf"
-session: Selection=1 CurrentRow=1 FileChanged=0 ProjectPath="one.baf"
+session: Cursor=1 FileChanged=0 ProjectPath="one.baf"
 Table1 1 - - "" "" ""
-Table1 colors 1,2=cursor 2,2=own
 caption: TipsLabel="New File."
 # It ends Insert; a click in Overwrite opens no line then. A large table shrinks to its 32 rows.
 > row NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP
@@ -209,10 +205,9 @@ caption: TipsLabel="New File."
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
 session: MessageResult="7"
 > row NOP ; cell Table1 1 2 ; row HLT ; changes
-session: Selection=2 CurrentRow=2 FileChanged=1 SelectionAnchor=1 SelectedInstruction=79
-    CurrentOpcode=118 SavedCells(2)="NOP" SavedCells(3)="00" SavedCells(4)="No Operation."
+session: Cursor=2 FileChanged=1 SelectionAnchor=1 SelectedInstruction=79 CurrentOpcode=118
+    SavedCells(2)="NOP" SavedCells(3)="00" SavedCells(4)="No Operation."
 Table1 1 - - "HLT" "76" "Halt program execution."
-Table1 colors 1,2=own 2,2=cursor
 caption: TipsLabel="Program Mode."
 # It goes by the last answer, whatever the question was. Cancel: no new file, with nothing asked.
 > path answers.baf ; click SaveFile ; answer cancel ; click QuitFile ; click NewFile ; changes
@@ -226,11 +221,9 @@ caption: ProgrammingPanel="Brelvanor Quilla - answers.baf" TipsLabel="File Saved
 box question "Save changes to answers.baf?" yesnocancel -> yes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "answers.baf"
 > click NewFile ; changes
-session: Selection=1 CurrentRow=1 FileOrigin=1 SelectionAnchor=0 SelectedInstruction=58
-    CurrentOpcode=201 SavedCells(2)="" SavedCells(3)="" SavedCells(4)="" FileName="Pgm1.baf"
-    MessageResult="6"
+session: Cursor=1 FileOrigin=1 SelectionAnchor=0 SelectedInstruction=58 CurrentOpcode=201
+    SavedCells(2)="" SavedCells(3)="" SavedCells(4)="" FileName="Pgm1.baf" MessageResult="6"
 Table1 1 - - "" "" ""
-Table1 colors 1,2=cursor 2,2=own
 caption: ProgrammingPanel="Brelvanor Quilla - Pgm1.baf" TipsLabel="New File."
 # Quitting asks whether or not there are changes.
 > answer ok ; click QuitFile

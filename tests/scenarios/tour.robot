@@ -25,7 +25,7 @@ default: XXAcceptButton
 # picture 04-label
 > type XXText first ; enter ; row "MVI B,second" "ADD B" "STA sum" ; click INST 37
 > type LabelText stop ; changes
-session: Selection=5 PanelState=4 CurrentRow=5 LastLine=4 SelectedInstruction=37 CurrentOpcode=195
+session: Cursor=5 PanelState=4 LastLine=4 SelectedInstruction=37 CurrentOpcode=195
 LabelCombo 0="sum" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
 LabelUsedList 0="1" | StringTable 1="first" 2="second" 4="sum" | XXCombo 0="first" 1="second"
 XXEqtList 0..1="XX"
@@ -34,7 +34,6 @@ Table1 2 - - "MVI  B,   second" "06   XX" "Move the equivalent of 'second' into 
 Table1 3 - - "ADD  B" "80" "Add content of B-register to content of Accumulator."
 Table1 4 - - "STA  sum" "32   XX   XX" "Store content of Accumulator in address pointed by 'sum'."
 Table1 5 - - "JMP" "C3"
-Table1 colors 1,2=own 5,2=cursor
 caption: TipsLabel="Enter Label and click 'Accept'." | text: LabelCombo="sum" LabelText="stop"
 shown: LabelBox | hidden: XXBox | disabled: LabelCombo | checked: NewLabelOption | focus: LabelText
 default: LabelAcceptButton

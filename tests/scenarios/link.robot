@@ -1,4 +1,5 @@
-# The line to the trainer. A download that ends before it begins: no file chosen, none there, sums
+== download
+# A download that ends before it begins: no file chosen, none there, sums
 # that end in 12, in 1F, in one digit, a record too short for its count.
 > click DownloadFile ; changes
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> cancel
@@ -65,10 +66,12 @@ session: PortOpen=1 CommPortNumber=2 MSComm1.CommPort=2
 checked: PortOption 1 | unchecked: PortOption 3
 session: PortOpen=0
 caption: TipsLabel="Program Mode."
+== upload
 # An upload that the user does not want, on a port that is broken, and on one that is in use.
-> click UploadFile ; changes ; answer ok ; click UploadFile ; changes ; port 2 busy
+> click PortOption 1 ; port 2 broken ; click UploadFile ; changes ; answer ok ; click UploadFile ; changes ; port 2 busy
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> cancel
-session: MessageResult="2"
+session: MessageResult="2" CommPortNumber=2 MSComm1.CommPort=2
+checked: PortOption 1 | unchecked: PortOption 0
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
 port open 2 "2400,N,8,1"
 rts 1
@@ -111,7 +114,8 @@ box critical "Comm1 is not available or already in use. Please assign another po
 > feed "80000076092\n:0000" ; show TipsLabel
 TipsLabel caption="Uploading . . ." enabled=1 visible=1
 > feed "0001FF" ; changes
-session: PortOpen=1
+session: PortOpen=1 HexPath="good.hex" HexTitle="good.hex"
+HexList 0=":0080000080" 1=":018000007609" 2=":00000001FF"
 caption: TipsLabel="Formatting received data . . ."
 > path up.hex ; tick 99 ; tick 1 ; changes ; path up.hex ; click DownloadFile ; answer ok ; settle
 dtr 0

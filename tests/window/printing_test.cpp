@@ -12,8 +12,10 @@
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "panel/quilla.h"
 #include "platform/dispatch.h"
@@ -247,8 +249,9 @@ TEST_F(PanelTest, ARunIsBusyAndTakesNoInput) {
 }
 
 TEST_F(PanelTest, ThePrintInformationHasItsCountsBesideTheirCaptions) {
-  Form* const form = quilla_.panel()->Dialogs().back();
-  ASSERT_EQ(form->name(), "PrintInfo");
+  const std::vector<Form*> forms = quilla_.panel()->Dialogs();
+  Form* const form = *std::find_if(forms.begin(), forms.end(),
+                                   [](const Form* each) { return each->name() == kPrintInfo; });
   dynamic_cast<Label*>(form->Find("TotalPagesLabel"))->set_caption("7");
   Gate gate;
   const PrintInfoWindow info(gate, outside_.event_loop, *form);

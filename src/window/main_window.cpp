@@ -1,6 +1,7 @@
 #include "window/main_window.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QFrame>
 #include <QScreen>
 #include <algorithm>
@@ -116,6 +117,16 @@ QWidget* MainWindow::MakeStrip(const char* box, const char* heading, const char*
   row->addWidget(MakeBold(mirror_, strip, label), stretch);
   Bind(mirror_, mirror_.Get<Box>(box), *strip);
   return strip;
+}
+
+// While a run takes no input its tip stays readable: it tells how far the run is.
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::EnabledChange) return;
+  QPalette readable;
+  readable.setColor(QPalette::Disabled, QPalette::WindowText,
+                    palette().color(QPalette::Active, QPalette::WindowText));
+  mirror_.WidgetOf(mirror_.Get<Label>("TipsLabel"))->setPalette(readable);
 }
 
 void MainWindow::FocusHome() {

@@ -22,6 +22,9 @@ class MainWindow : public QMainWindow {
 
   FormMirror& mirror() { return mirror_; }
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   QWidget* MakeHeadings();
   QWidget* MakeProgramTable();

@@ -241,8 +241,12 @@ TEST_F(PanelTest, ARunIsBusyAndTakesNoInput) {
   EXPECT_FALSE(window().isEnabled());
   ASSERT_NE(QApplication::overrideCursor(), nullptr);
   EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  const QPalette tip = Find("TipsLabel").palette();
+  EXPECT_EQ(tip.color(QPalette::Disabled, QPalette::WindowText),
+            tip.color(QPalette::Active, QPalette::WindowText));
   QTest::keyClick(&window(), Qt::Key_P, Qt::ControlModifier);
-  EXPECT_TRUE(window().isVisible());
+  const std::string transcript = transcript_.str();
+  EXPECT_EQ(transcript.find("box "), transcript.rfind("box ")) << "no second run";
   outside_.clock.PassAll();
   EXPECT_TRUE(window().isEnabled());
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);

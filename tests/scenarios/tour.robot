@@ -121,3 +121,32 @@ enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceE
 focus: WatchWindowDialog.AcceptButton
 > close WatchWindowDialog
 closed WatchWindowDialog
+# The bytes of the file back in a table.
+# picture 10-disassembler
+> answer no ; path adder.hex ; click DisassembleFile ; click DataDialog.DataType 1
+box question "Save changes to Pgm1.baf?" yesnocancel -> no
+dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"
+open DataDialog
+> drag DataDialog.DataTable 1 0 11 0 ; changes
+session: HexTitle="adder.hex" MessageResult="7"
+DataDialog.DataTable rows=12 | 0 "Address" "Data" "Category" | 1 "8000" "3E" "Mnemonic"
+DataDialog.DataTable 2..4 "8001".."8003" "05".."07" "Mnemonic" | 5 "8004" "80" "Mnemonic"
+DataDialog.DataTable 6 "8005" "32" "Mnemonic" | 7 "8006" "50" "Mnemonic" | 8 "8007" "80" "Mnemonic"
+DataDialog.DataTable 9 "8008" "C3" "Mnemonic" | 10 "8009" "08" "Mnemonic"
+DataDialog.DataTable 11 "800A" "80" "Mnemonic"
+caption: DataDialog="Disassemble Dialog - adder.hex"
+    TipsLabel="Select the mnemonics && data bytes and click 'Done', or click 'Cancel'."
+    DataDialog.DataTypeLabel="Mnemonic" | checked: DataDialog.DataType 1
+> click DataDialog.DoneButton ; settle ; changes
+closed DataDialog
+session: LastLine=6 FileOrigin=4 NextLabelNumber=2 NextVariableNumber=2
+LabelCombo 0="a0" 1="a1" | LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0
+StringTable rows=16 (16 out at 1) 1="v0" 2="v1" 4="a0" 5="a1" | XXCombo 0="v0" 1="v1"
+Table1 rows=16 (16 out at 1)
+Table1 1 - "8000" "MVI  A,  v0" "3E   05" "Move the equivalent of 'v0' into Accumulator."
+Table1 2 - "8002" "MVI  B,   v1" "06   07" "Move the equivalent of 'v1' into B-register."
+Table1 3 - "8004" "ADD  B " "80" "Add content of B-register to content of Accumulator."
+Table1 4 - "8005" "STA   a0" "32   50   80"
+    "Store content of Accumulator in address pointed by 'a0'."
+Table1 5 "a1" "8008" "JMP  a1" "C3   08   80" "Jump to address pointed by 'a1'."
+caption: TipsLabel="Disassembling completed successfully."

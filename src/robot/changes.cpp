@@ -105,7 +105,8 @@ struct Changes::News {
         entries[entry->container()].insert(name);
       }
     }
-    for (const auto& [menu, inside] : entries) {
+    for (const auto& entry : entries) {
+      const std::set<Name>& inside = entry.second;
       const bool enabled = controls.at(*inside.begin())->enabled();
       const auto is_alike = [&](const Name& name) {
         return controls.at(name)->enabled() == enabled;
@@ -115,7 +116,7 @@ struct Changes::News {
         continue;
       }
       std::erase_if(names, is_inside);
-      names.emplace_back(std::string(), menu->name() + "/*", Control::kNoIndex);
+      names.emplace_back(std::string(), entry.first->name() + "/*", Control::kNoIndex);
     }
     std::ranges::sort(names);
   }

@@ -1,0 +1,114 @@
+// A fuzzing target: any hex file read, checked, listed, marked anyhow, and disassembled twice over.
+//
+// Input: the first byte says how the rest is meant: a file as it stands (even), or the fields of
+// records that get their checksums here (odd). The second byte says how many of the bytes behind it
+// are marks: category and length of a run of rows, for one try after the other.
+#include "fuzz/hex_fuzz.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+#include <random>
+#include <string>
+#include <string_view>
+
+#include "disassembler/data_dialog.h"
+#include "formats/hex_records.h"
+#include "platform/number_text.h"
+#include "robot/scripted_outside.h"
+
+namespace quilla {
+namespace {
+
+/// The parts that disassembling takes, joined as the panel joins them.
+struct Workshop {
+  std::ostream transcript{nullptr};
+  robot::ScriptedOutside outside{transcript};
+  Session session{outside.ports};
+  Rows rows{session};
+  StateMachine states{session};
+  Origins origins{session, states, rows};
+  AddressAssignment addresses{session, states, rows};
+  DataDialog dialog{session, rows, origins, addresses};
+};
+
+void Require(bool condition) {
+  if (!condition) std::abort();
+}
+
+/// The records that bytes of any value make: a count and an address, then so many bytes.
+std::string MakeRecords(std::string_view fields) {
+  constexpr std::size_t kHead = 3;
+  constexpr std::size_t kLongest = 40;
+  std::string file;
+  while (fields.size() > kHead) {
+    const std::size_t count =
+        std::min(static_cast<unsigned char>(fields[0]) % kLongest, fields.size() - kHead);
+    std::string record = ":" + PaddedHexText(static_cast<int>(count), kByteDigits);
+    for (std::size_t i = 1; i < kHead + count; ++i) {
+      if (i == kHead) record += "00";
+      record += PaddedHexText(static_cast<unsigned char>(fields[i]), kByteDigits);
+    }
+    if (count == 0) record += "00";
+    const std::string checksum = Checksum(record);
+    file += record + checksum.substr(checksum.size() - kByteDigits) + '\n';
+    fields.remove_prefix(kHead + count);
+  }
+  return file + kEndRecord;
+}
+
+void Mark(Workshop& shop, std::string_view marks) {
+  auto& table = dynamic_cast<Grid&>(*shop.dialog.form().Find("DataTable"));
+  int row = 1;
+  for (; marks.size() > 1 && row < table.Rows(); marks.remove_prefix(2)) {
+    const int last = std::min(row + static_cast<unsigned char>(marks[1]) % 64, table.Rows() - 1);
+    const auto type = static_cast<unsigned char>(marks[0]) % 3;
+    shop.dialog.form().Find("DataType", type)->Choose();
+    table.PressCell(row, 0);
+    table.ReleaseAt(last);
+    row = last + 1;
+  }
+}
+
+void TryOnce(Workshop& shop, std::string_view marks) {
+  Form& form = shop.dialog.form();
+  Control& done = *form.Find("DoneButton");
+  if (!form.visible()) return;  // the first try has been good
+  Mark(shop, marks);
+  if (!done.enabled()) return;
+  done.Choose();
+  shop.outside.clock.PassAll();
+  Require(shop.session.Table1.Rows() == shop.session.StringTable.Rows());
+  Require(shop.session.LabelCombo.Count() == shop.session.LabelEqtList.Count());
+  Require(shop.session.XXCombo.Count() == shop.session.XXEqtList.Count());
+}
+
+}  // namespace
+}  // namespace quilla
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quilla;  // NOLINT(google-build-using-namespace): the harness's own function
+  if (size < 2) return 0;
+  const std::string_view input(reinterpret_cast<const char*>(data), size);
+  const std::size_t marked = std::min<std::size_t>(data[1], size - 2);
+  const std::string_view marks = input.substr(2, marked);
+  const std::string_view rest = input.substr(2 + marked);
+  static const std::string kPath = (std::filesystem::temp_directory_path() /
+                                    ("quilla-fuzz-" + std::to_string(std::random_device()())))
+                                       .string();
+  std::ofstream(kPath, std::ios::binary)
+      << (data[0] % 2 == 0 ? std::string(rest) : MakeRecords(rest));
+  Workshop shop;
+  shop.rows.SetRows(kLeastRows);
+  shop.outside.file_dialogs.Queue(kPath);
+  shop.outside.event_loop.play_command = [&] {
+    TryOnce(shop, marks.substr(0, marked / 2));
+    TryOnce(shop, marks.substr(marked / 2));
+    shop.dialog.form().Find("CancelButton")->Choose();
+    return true;
+  };
+  shop.session.menu.DisassembleFile.Choose();
+  return 0;
+}

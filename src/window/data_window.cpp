@@ -25,15 +25,15 @@ DataWindow::DataWindow(Gate& gate, EventLoop& event_loop, Form& form)
   auto* const type = new QHBoxLayout;
   type->addWidget(make("Label5"));
   type->addWidget(MakeBold(mirror_, this, "DataTypeLabel"), 1);
-  auto* const buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(make("DoneButton"));
-  buttons->addWidget(make("CancelButton"));
   auto* const side = new QVBoxLayout;
   side->addLayout(type);
   for (int i = 0; i < kOptions; ++i) {
     side->addWidget(Make(mirror_, this, "DataType", i), 0, Qt::AlignLeft);
   }
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(make("DoneButton"));
+  buttons->addWidget(make("CancelButton"));
   side->addStretch();
   side->addLayout(buttons);
   auto* const row = new QHBoxLayout(this);

@@ -34,6 +34,8 @@ TEST_F(DataWindowTest, RowsAreMarkedWithTheKeys) {
     QTest::keyPress(dialog.focusWidget(), Qt::Key_Up, Qt::ShiftModifier);
     press(Qt::Key_Tab);  // given up before Shift is let go
     QTest::keyRelease(dialog.focusWidget(), Qt::Key_Shift);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "DoneButton");
     for (int row = 1; row < model.Rows(); ++row) marks += model.TextMatrix(row, 2) + '\n';
     dynamic_cast<Button&>(*form.Find("CancelButton")).Click();
     return true;

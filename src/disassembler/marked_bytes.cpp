@@ -38,8 +38,8 @@ std::vector<MarkedByte> ListBytes(const std::vector<std::string>& records) {
     const std::uint32_t count = HexValue(Digits(record, kCountAt, kByteDigits));
     const std::uint32_t address = HexValue(Digits(record, kAddressAt, kAddressDigits));
     for (std::uint32_t j = 0; j < count; ++j) {
-      bytes.push_back(
-          {address + j, ByteDigits(Digits(record, kDataAt + j * kByteDigits, kByteDigits))});
+      const std::size_t at = kDataAt + std::size_t{j} * kByteDigits;
+      bytes.push_back({address + j, ByteDigits(Digits(record, at, kByteDigits))});
     }
   }
   return bytes;

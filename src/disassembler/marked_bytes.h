@@ -31,7 +31,7 @@ class ByteDigits {
 };
 
 struct MarkedByte {
-  std::uint32_t address;  // up to 100FEh: a record at FFFFh may run on
+  std::uint32_t address = 0;  // up to 100FEh: a record at FFFFh may run on
   ByteDigits digits;
   Category category = Category::kUnwanted;
 };

@@ -76,7 +76,7 @@ void CopyOpcodes(const ProgramLayout& layout, Session& session, Rows& rows, Orig
     table.SetTextMatrix(row, kOpcodeColumn, OpcodeCellOf(layout, row));
   }
   for (const std::string& entry : layout.OriginList) {
-    const auto row = static_cast<int>(DecimalValue(std::string_view(entry).substr(kAddressDigits)));
+    const auto row = static_cast<int>(DecimalValue(entry.substr(kAddressDigits)));
     table.SetTextMatrix(row, kAddressColumn, entry.substr(0, kAddressDigits));
     table.SetTextMatrix(row, kLabelColumn, kOrigin);
     origins.ColorOrigin(row);

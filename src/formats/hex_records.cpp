@@ -20,7 +20,7 @@ constexpr std::size_t kFrameBytes = 5;
 std::int64_t LowByteAsDecimal(std::int64_t sum) {
   const std::string text = HexText(sum);
   if (text.size() < kByteDigits) throw Failure(ErrorNumber::kOutsideList);
-  return DecimalValue(std::string_view(text).substr(text.size() - kByteDigits));
+  return DecimalValue(text.substr(text.size() - kByteDigits));
 }
 
 bool IsGood(std::string_view record) {

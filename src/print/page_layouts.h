@@ -4,6 +4,7 @@
 #define QUILLA_PRINT_PAGE_LAYOUTS_H_
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 #include "platform/button.h"
@@ -57,7 +58,7 @@ struct PrintLabelPanel : PageLayout {
   /// Composes the page that begins with string `PrintCursor`. Gives the number of its strings.
   int Fill(const Session& session, const PrintState& state);
 
-  std::array<Label, 2 * kPairsOfRow> HeadLabel{
+  std::array<Label, std::size_t{2} * kPairsOfRow> HeadLabel{
       Label(&form, "HeadLabel", "String", 0), Label(&form, "HeadLabel", "Equivalent", 1),
       Label(&form, "HeadLabel", "String", 3), Label(&form, "HeadLabel", "Equivalent", 4),
       Label(&form, "HeadLabel", "String", 6), Label(&form, "HeadLabel", "Equivalent", 7),

@@ -208,8 +208,9 @@ void Commands::Hover(Words& words) {
 
 void Commands::Row(Words& words) {
   std::vector<RowKeys> rows;
-  do rows.push_back(KeysOf(words.Take()));
-  while (words.AreLeft());
+  do {
+    rows.push_back(KeysOf(words.Take()));
+  } while (words.AreLeft());
   for (const RowKeys& keys : rows) {
     if (!EnterRow(keys)) return;
   }

@@ -36,8 +36,7 @@ std::string Joined(const std::string& lines) {
   for (std::string line; std::getline(stream, line);) {
     const bool goes_on = line.starts_with(kIndent);
     const std::string word = line.substr(0, line.find(' ') + 1);
-    const std::string_view rest =
-        std::string_view(line).substr(!goes_on && word == head ? word.size() : 0);
+    const std::string rest = line.substr(!goes_on && word == head ? word.size() : 0);
     if (!goes_on && width + kBar.size() + rest.size() <= kWidth) {
       joined.replace(joined.size() - 1, 1, kBar);
       joined += rest;

@@ -2,6 +2,7 @@
 #include <QApplication>
 
 #include "panel/quilla.h"
+#include "window/help.h"
 #include "window/qt_outside.h"
 
 int main(int argc, char** argv) {
@@ -10,6 +11,10 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   quilla::QtOutside outside;
   quilla::Quilla quilla(outside.ports());
+  quilla::Help help(quilla);
+  outside.event_loop().on_made = [&](quilla::Form& form, QWidget& window) {
+    help.AddTo(form, window);
+  };
   quilla.Start();
   const int result = QApplication::exec();
   outside.event_loop().DestroyWindows();

@@ -23,7 +23,10 @@ QWidget* QtEventLoop::WindowOf(const Form& form) const {
 
 void QtEventLoop::OpenWindow(Form& form) {
   std::unique_ptr<QWidget>& window = windows_[&form];
-  if (window == nullptr) window = make_window_(form);
+  if (window == nullptr) {
+    window = make_window_(form);
+    if (on_made) on_made(form, *window);
+  }
   const QWidget* const active = QApplication::activeWindow();
   if (window->isModal() && active != nullptr) {
     window->winId();  // makes the window's handle

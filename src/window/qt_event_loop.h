@@ -23,6 +23,9 @@ class QtEventLoop : public EventLoop {
   QtEventLoop(Gate& gate, WindowFactory make_window)
       : gate_(gate), make_window_(std::move(make_window)) {}
 
+  /// Told when the window of a form has been made, before it is shown.
+  std::function<void(Form&, QWidget&)> on_made;
+
   /// Takes all windows down, to be done before the forms go.
   void DestroyWindows() { windows_.clear(); }
   /// The window of a form; null while it was never shown.

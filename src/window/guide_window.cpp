@@ -1,0 +1,144 @@
+#include "window/guide_window.h"
+
+#include <QBoxLayout>
+#include <QFile>
+#include <QImage>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QShortcut>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QWindow>
+
+namespace quilla {
+namespace {
+
+constexpr const char* kGuide = "qrc:/docs/guide.md";
+constexpr const char* kDemonstration = "demo";
+constexpr int kMargin = 16;
+constexpr int kWidestPicture = 680;
+constexpr int kSmallestZoom = -4;
+constexpr int kLargestZoom = 20;
+constexpr int kWidthInDigits = 100;
+constexpr int kLines = 42;
+
+/// The anchor of a heading, as links write it: "Data bytes" is #data-bytes.
+QString AnchorOf(const QString& heading) {
+  static const QRegularExpression kDropped(QStringLiteral(R"([^\w\- ])"));
+  return heading.toLower().remove(kDropped).replace(u' ', u'-');
+}
+
+void NameHeadings(QTextDocument& page) {
+  for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() == 0 || block.text().isEmpty()) continue;
+    QTextCursor cursor(block);
+    cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+    QTextCharFormat name;
+    name.setAnchor(true);
+    name.setAnchorNames({AnchorOf(block.text())});
+    cursor.mergeCharFormat(name);
+  }
+}
+
+/// A page in HTML, its headings named. A view that took the Markdown itself would lay out every
+/// table anew for each cell.
+QString HtmlOf(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QTextDocument page;
+  page.setMarkdown(QString::fromUtf8(file.readAll()));
+  NameHeadings(page);
+  return page.toHtml();
+}
+
+void AddShortcut(GuideWindow* window, const QKeySequence& keys, const std::function<void()>& act) {
+  QObject::connect(new QShortcut(keys, window), &QShortcut::activated, window, act);
+}
+
+}  // namespace
+
+GuidePage::GuidePage(QWidget* parent) : QTextBrowser(parent) {
+  setOpenLinks(false);
+  document()->setDocumentMargin(kMargin);
+  connect(this, &QTextBrowser::anchorClicked, this, &GuidePage::Follow);
+}
+
+void GuidePage::TurnTo(const QString& anchor) {
+  QUrl url(kGuide);
+  if (!anchor.isEmpty()) url.setFragment(anchor);
+  setSource(url, QTextDocument::HtmlResource);
+}
+
+void GuidePage::Zoom(int steps) {
+  const int wanted = qBound(kSmallestZoom, zoom_ + steps, kLargestZoom);
+  zoomIn(wanted - zoom_);
+  zoom_ = wanted;
+}
+
+// A link to what is not compiled in, such as a folder of examples, leads nowhere.
+void GuidePage::Follow(const QUrl& link) {
+  if (link.scheme() == kDemonstration) {
+    Q_EMIT DemonstrationChosen(link.path());
+    return;
+  }
+  const QUrl target = source().resolved(link);
+  if (target.scheme() == u"qrc" && QFile::exists(u':' + target.path())) {
+    setSource(target, QTextDocument::HtmlResource);
+  }
+}
+
+QVariant GuidePage::loadResource(int type, const QUrl& url) {
+  if (type == QTextDocument::HtmlResource) return HtmlOf(u':' + url.path());
+  const QVariant resource = QTextBrowser::loadResource(type, url);
+  if (type != QTextDocument::ImageResource) return resource;
+  const QImage picture = QImage::fromData(resource.toByteArray());
+  if (picture.width() <= kWidestPicture) return picture;
+  return picture.scaledToWidth(kWidestPicture, Qt::SmoothTransformation);
+}
+
+GuideWindow::GuideWindow() {
+  setObjectName("GuideWindow");
+  setWindowTitle(tr("Guide"));
+  auto* const back = new QPushButton(tr("&Back"), this);
+  auto* const contents = new QPushButton(tr("&Contents"), this);
+  back->setEnabled(false);
+  connect(back, &QPushButton::clicked, page_, &QTextBrowser::backward);
+  connect(page_, &QTextBrowser::backwardAvailable, back, &QPushButton::setEnabled);
+  connect(contents, &QPushButton::clicked, page_, [this] { page_->TurnTo({}); });
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(back);
+  buttons->addWidget(contents);
+  buttons->addStretch();
+  auto* const column = new QVBoxLayout(this);
+  column->addLayout(buttons);
+  column->addWidget(page_);
+  page_->setFocus();
+
+  AddShortcut(this, QKeySequence::ZoomIn, [this] { page_->Zoom(1); });
+  AddShortcut(this, Qt::CTRL | Qt::Key_Equal, [this] { page_->Zoom(1); });
+  AddShortcut(this, QKeySequence::ZoomOut, [this] { page_->Zoom(-1); });
+  AddShortcut(this, Qt::CTRL | Qt::Key_0, [this] { page_->ZoomBack(); });
+  AddShortcut(this, Qt::Key_Escape, [this] { close(); });
+  const QRect place = screen()->availableGeometry();
+  const QSize wanted(kWidthInDigits * fontMetrics().horizontalAdvance(u'0'),
+                     kLines * fontMetrics().lineSpacing());
+  resize(wanted.boundedTo(place.size() * 4 / 5));
+  move(place.right() - width() - kMargin, place.top());  // the program's rows stay in view
+}
+
+// A window whose transient parent is a modal dialog can be used beside it.
+void GuideWindow::Open(QWidget& owner, const QString& anchor) {
+  winId();  // makes the window's handle
+  if (windowHandle()->transientParent() != owner.windowHandle()) {
+    hide();
+    windowHandle()->setTransientParent(owner.windowHandle());
+  }
+  showNormal();
+  raise();
+  activateWindow();
+  page_->TurnTo(anchor);
+}
+
+}  // namespace quilla

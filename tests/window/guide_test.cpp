@@ -1,0 +1,69 @@
+// The guide inside the program: every section that F1 opens is there, and every link leads on.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <set>
+
+#include "window/help.h"
+
+namespace quilla {
+namespace {
+
+std::set<QString> AnchorsOf(const GuidePage& page) {
+  std::set<QString> anchors;
+  for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next()) {
+    for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+      for (const QString& name : piece.fragment().charFormat().anchorNames()) anchors.insert(name);
+    }
+  }
+  return anchors;
+}
+
+TEST(GuideTest, HasTheSectionsOfAllTasks) {
+  GuidePage page(nullptr);
+  page.TurnTo({});
+  const std::set<QString> anchors = AnchorsOf(page);
+  const auto expect = [&](const char* window, int state) {
+    const QString section = SectionOf(Form(window), PanelState{state});
+    EXPECT_TRUE(section.isEmpty() || anchors.contains(section)) << section.toStdString();
+  };
+  for (int state = 1; state <= 35; ++state) expect(kProgrammingPanel, state);
+  for (const char* window : {kDataDialog, kRenumberDialog, kPrintInfo, kWatchWindowDialog}) {
+    expect(window, 1);
+  }
+}
+
+TEST(GuideTest, TurnsToASectionAndFollowsItsLinks) {
+  GuideWindow guide;
+  QWidget panel;
+  guide.Open(panel, "equivalents");
+  GuidePage& page = guide.page();
+  EXPECT_EQ(page.cursorForPosition({40, 5}).block().text().toStdString(), "Equivalents");
+  QFile file(":/docs/guide.md");
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QString text = QString::fromUtf8(file.readAll());
+  static const QRegularExpression kLink(R"(\]\((?!https:)([^)#]*)#?([^)]*)\))");
+  const std::set<QString> anchors = AnchorsOf(page);
+  for (auto each = kLink.globalMatch(text); each.hasNext();) {
+    const auto link = each.next();
+    const QString path = link.captured(1);
+    if (path.isEmpty()) {
+      EXPECT_TRUE(anchors.contains(link.captured(2))) << qPrintable(link.captured());
+    }
+    if (path.endsWith(".png")) {
+      const QUrl url = page.source().resolved(path);
+      EXPECT_FALSE(page.loadResource(QTextDocument::ImageResource, url).value<QImage>().isNull());
+    }
+  }
+  Q_EMIT page.anchorClicked(QUrl("instruction-set.md"));
+  EXPECT_EQ(page.source(), QUrl("qrc:/docs/instruction-set.md"));
+  Q_EMIT page.anchorClicked(QUrl("../examples/checking"));
+  EXPECT_EQ(page.source(), QUrl("qrc:/docs/instruction-set.md")) << "no page";
+  page.backward();
+  EXPECT_EQ(page.cursorForPosition({40, 5}).block().text().toStdString(), "Equivalents");
+}
+
+}  // namespace
+}  // namespace quilla

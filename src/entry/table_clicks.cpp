@@ -21,6 +21,8 @@ TableClicks::TableClicks(Session& session, StateMachine& states, Rows& rows, Ori
   table_.MouseUp = [this] { Table1_MouseUp(); };
   table_.CellMouseMove = [this](int column) { Table1_MouseMove(column); };
   table_.Click = [this] { Table1_Click(); };
+  table_.SelectedRows = [this] { return SelectedRows(); };
+  table_.DraggedRows = [this](int row) { return DraggedRows(row); };
   states_.SetTableTask({PanelState::kReady, PanelState::kDataReady},
                        {.Clicked = [this](int row, int column) { ClickWhenReady(row, column); },
                         .LiveColumns = {kMnemonicColumn}});
@@ -37,14 +39,28 @@ void TableClicks::Table1_MouseDown() {
 
 void TableClicks::Table1_MouseUp() {
   if (!session_.IsReady() || table_.Col() != kMnemonicColumn) return;
-  const int anchor = session_.SelectionAnchor;
-  const int end = table_.RowSel();
-  if (anchor == end || table_.Row() == end) {
+  const RowRange rows = DraggedRows(table_.RowSel());
+  if (rows.last < rows.first) {
     ClickMnemonic(table_.Row());
   } else {
-    session_.SelectionTop = std::min(anchor, end);
-    session_.SelectionBottom = std::max(anchor, end);
+    session_.SelectionTop = rows.first;
+    session_.SelectionBottom = rows.last;
   }
+}
+
+RowRange TableClicks::DraggedRows(int row) const {
+  const int anchor = session_.SelectionAnchor;
+  const bool selects = session_.IsReady() && table_.Col() == kMnemonicColumn;
+  if (!selects || anchor == row || table_.Row() == row) return {};
+  return {std::min(anchor, row), std::max(anchor, row)};
+}
+
+// Where nothing but the row of the cursor is selected, the cursor tells it.
+RowRange TableClicks::SelectedRows() const {
+  const bool is_cursor = session_.SelectionTop == session_.CurrentRow &&
+                         session_.SelectionBottom == session_.CurrentRow;
+  if (!session_.IsReady() || is_cursor) return {};
+  return {session_.SelectionTop, session_.SelectionBottom};
 }
 
 void TableClicks::ClickMnemonic(int row) {

@@ -20,6 +20,8 @@ class TableClicks {
  private:
   void Table1_MouseDown();
   void Table1_MouseUp();
+  RowRange DraggedRows(int row) const;
+  RowRange SelectedRows() const;
   void Table1_MouseMove(int column);
   void Table1_Click();
 

@@ -48,6 +48,12 @@ class GridObserver : public ControlObserver {
   virtual void EndRemoveRows() = 0;
 };
 
+/// Rows of a grid, both ends included; none where the last is before the first.
+struct RowRange {
+  int first = 0;
+  int last = -1;
+};
+
 /// How a grid shows its mouse selection: nothing reads it but the window.
 enum class SelectionDisplay { kRows = 0, kCell = 1 };
 
@@ -136,6 +142,11 @@ class Grid : public Control {
   std::function<void(int)> CellMouseMove;
   /// The current cell is another one than before.
   std::function<void()> CurrentCellChange;
+
+  /// The rows that commands would take as selected, and those that they would if a drag ended over
+  /// `row`. A grid without these has the rows that the mouse was dragged over.
+  std::function<RowRange()> SelectedRows;
+  std::function<RowRange(int row)> DraggedRows;
 
   GridObserver* grid_observer = nullptr;
 

@@ -101,6 +101,38 @@ void ShowEntries(const ComboBox& combo, QComboBox& widget) {
   widget.setCurrentIndex(combo.index());
 }
 
+bool IsPress(const QEvent& event) {
+  return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
+// A button that acts while it is held is held from the press of either mouse button until that one
+// is let go, wherever the pointer is then. A key holds it in Qt's own way.
+void BindHolding(Gate& gate, Button& button, QAbstractButton& widget, Mirror& shown) {
+  QObject::connect(&widget, &QAbstractButton::pressed, &shown,
+                   [&] { gate.Enter([&] { button.Press(); }); });
+  QObject::connect(&widget, &QAbstractButton::released, &shown,
+                   [&] { gate.Enter([&] { button.Release(); }); });
+  const auto holding = std::make_shared<Qt::MouseButton>(Qt::NoButton);
+  const auto set_held = [&, holding](Qt::MouseButton by) {
+    *holding = by;
+    widget.setDown(by != Qt::NoButton);
+    gate.Enter([&] { by == Qt::NoButton ? button.Release() : button.Press(); });
+  };
+  shown.Watch([&, holding, set_held](const QEvent& event) {
+    const bool is_held = *holding != Qt::NoButton;
+    if (event.type() == QEvent::Hide && is_held) set_held(Qt::NoButton);
+    if (event.type() == QEvent::MouseMove) return is_held;
+    if (!IsPress(event) && event.type() != QEvent::MouseButtonRelease) return false;
+    const Qt::MouseButton by = static_cast<const QMouseEvent&>(event).button();
+    if (IsPress(event) && !is_held && (by == Qt::LeftButton || by == Qt::RightButton)) {
+      set_held(by);
+    } else if (!IsPress(event) && is_held && by == *holding) {
+      set_held(Qt::NoButton);
+    }
+    return true;
+  });
+}
+
 bool IsClick(const QEvent& event, const QWidget& widget) {
   if (event.type() != QEvent::MouseButtonRelease) return false;
   const auto& mouse = static_cast<const QMouseEvent&>(event);
@@ -109,27 +141,14 @@ bool IsClick(const QEvent& event, const QWidget& widget) {
 
 }  // namespace
 
-// A button that acts while it is held takes the right mouse button like the left one.
 void Bind(FormMirror& mirror, Button& button, QAbstractButton& widget) {
   Gate& gate = mirror.gate();
   Mirror& shown = Show(mirror, button, widget, [&](Property property) {
     if (property == Property::kCaption) widget.setText(ToQt(button.caption()));
   });
-  QObject::connect(&widget, &QAbstractButton::pressed, &shown,
-                   [&] { gate.Enter([&] { button.Press(); }); });
-  QObject::connect(&widget, &QAbstractButton::released, &shown,
-                   [&] { gate.Enter([&] { button.Release(); }); });
   QObject::connect(&widget, &QAbstractButton::clicked, &shown,
                    [&] { gate.Enter([&] { button.Choose(); }); });
-  if (!button.MouseDown && !button.MouseUp) return;
-  shown.Watch([&](const QEvent& event) {
-    const bool press =
-        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
-    if (!press && event.type() != QEvent::MouseButtonRelease) return false;
-    if (static_cast<const QMouseEvent&>(event).button() != Qt::RightButton) return false;
-    gate.Enter([&] { press ? button.Press() : button.Release(); });
-    return true;
-  });
+  if (button.MouseDown || button.MouseUp) BindHolding(gate, button, widget, shown);
 }
 
 void Bind(FormMirror& mirror, Option& option, QRadioButton& widget) {

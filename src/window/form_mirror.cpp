@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <string>
@@ -129,6 +130,10 @@ bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   if (!is_key && event->type() != QEvent::MouseMove) return false;
   if (!watched->isWidgetType()) return false;
   const auto& widget = static_cast<const QWidget&>(*watched);
+  if (event->type() == QEvent::KeyPress &&
+      KeyRouter::IsHeld(widget, static_cast<const QKeyEvent&>(*event))) {
+    return true;
+  }
   if (widget.window() != &window_) return false;
   if (event->type() == QEvent::MouseMove) {
     return HandlePointer(widget, static_cast<const QMouseEvent&>(*event));
@@ -136,7 +141,8 @@ bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   // A key that a widget leaves alone comes again for the widgets that it stands in.
   const QWidget* const focus = window_.focusWidget();
   const bool comes_first = &widget == (focus == nullptr ? &window_ : focus);
-  if (!comes_first) return false;
+  const bool is_menus = qobject_cast<const QMenuBar*>(focus) != nullptr;
+  if (!comes_first || is_menus) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
   if (event->type() == QEvent::KeyPress) return keys_.Press(key);
   if (!keys_.IsAccessKey(key)) return false;

@@ -51,6 +51,9 @@ class FormMirror final : public QObject, private ControlObserver {
   /// The control shown by `widget` or by the nearest widget that it stands in; null if none is.
   Control* ControlAt(const QWidget* widget) const;
 
+  /// Whether characters that the control with the focus does not take go to the control that the
+  /// program last gave the focus.
+  bool passes_characters_on = true;
   /// Gives the focus when what had it is gone and the models ask for nothing.
   std::function<void()> focus_home;
 

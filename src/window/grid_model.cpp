@@ -29,17 +29,22 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) {
     return ToQt(grid_.TextMatrix(index.row(), index.column()));
   }
-  if (role == Qt::TextAlignmentRole) {
-    const bool left = grid_.ColAlignment(index.column()) == kAlignLeft;
-    return QVariant::fromValue(Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignHCenter));
-  }
+  if (role == Qt::TextAlignmentRole) return AlignmentOf(index.column());
   return {};
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  const bool is_heading = orientation == Qt::Horizontal && role == Qt::DisplayRole &&
-                          grid_.FixedRows() > 0 && grid_.Rows() > 0;
-  return is_heading ? ToQt(grid_.TextMatrix(0, section)) : QVariant();
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::TextAlignmentRole) return AlignmentOf(section);
+  if (role != Qt::DisplayRole) return {};
+  if (section < headings_.size()) return headings_[section];
+  return grid_.FixedRows() > 0 && grid_.Rows() > 0 ? ToQt(grid_.TextMatrix(0, section))
+                                                   : QVariant();
+}
+
+QVariant GridModel::AlignmentOf(int column) const {
+  const bool left = grid_.ColAlignment(column) == kAlignLeft;
+  return QVariant::fromValue(Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignHCenter));
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {

@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QBasicTimer>
+#include <QStringList>
 
 #include "platform/grid.h"
 
@@ -24,6 +25,8 @@ class GridModel : public QAbstractTableModel, public GridObserver {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+  /// Gives a grid whose rows hold no headings these.
+  void set_headings(const QStringList& headings) { headings_ = headings; }
   const Grid& grid() const { return grid_; }
 
  Q_SIGNALS:
@@ -43,11 +46,13 @@ class GridModel : public QAbstractTableModel, public GridObserver {
   void EndRemoveRows() override { endRemoveRows(); }
 
   void ReportTouchedRows();
+  QVariant AlignmentOf(int column) const;
   bool HasCursor(int row) const;
 
   static constexpr int kNone = -1;
 
   Grid& grid_;
+  QStringList headings_;
   // The rows touched since the last report, reported together when the handler is over.
   int touched_first_ = kNone;
   int touched_last_ = kNone;

@@ -1,5 +1,6 @@
 #include "window/grid_view.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -14,6 +15,9 @@ namespace {
 
 constexpr int kRowPadding = 6;
 constexpr int kScrollIntervalMs = 40;
+/// A longer pause ends the typing of an address.
+constexpr int kLongestPauseMs = 1000;
+constexpr int kHexadecimal = 16;
 /// A column of this width must hold one digit.
 constexpr double kTwipsPerDigit = 90;
 /// The width of a column that was given none.
@@ -25,11 +29,12 @@ int TwipsOf(const Grid& grid, int column) {
   return grid.ColWidth(column) >= 0 ? grid.ColWidth(column) : kUsualTwips;
 }
 
+RowRange Between(int one, int other) { return {std::min(one, other), std::max(one, other)}; }
+
 }  // namespace
 
 GridView::GridView(Gate& gate, Grid& grid, QWidget* parent)
-    : QTableView(parent), gate_(gate), grid_(grid) {
-  auto* const model = new GridModel(grid, this);
+    : QTableView(parent), gate_(gate), grid_(grid), model_(new GridModel(grid, this)) {
   setItemDelegate(new CellDelegate(grid, this));
   SetUpHeading();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -47,10 +52,10 @@ GridView::GridView(Gate& gate, Grid& grid, QWidget* parent)
   setMouseTracking(true);
   viewport()->setMouseTracking(true);
   FitRows();
-  setModel(model);
+  setModel(model_);
   HideHeadingRows();
-  connect(model, &GridModel::rowsInserted, this, &GridView::HideHeadingRows);
-  connect(model, &GridModel::CursorTouched, this, &GridView::KeepInView);
+  connect(model_, &GridModel::rowsInserted, this, &GridView::HideHeadingRows);
+  connect(model_, &GridModel::CursorTouched, this, &GridView::KeepInView);
   connect(&gate_, &Gate::Left, this, &GridView::SyncWithGrid);
 }
 
@@ -78,11 +83,10 @@ void GridView::HideHeadingRows() {
   }
 }
 
-std::vector<int> GridView::ColumnWidths() const {
-  std::vector<int> widths;
-  widths.reserve(static_cast<std::size_t>(grid_.Cols()));
-  for (int column = 0; column < grid_.Cols(); ++column) widths.push_back(columnWidth(column));
-  return widths;
+void GridView::SetHeadings(const QStringList& headings) {
+  model_->set_headings(headings);
+  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->show();
 }
 
 void GridView::FitRows() {
@@ -104,7 +108,6 @@ void GridView::LayOutColumns() {
     left -= width;
   }
   setColumnWidth(grid_.Cols() - 1, std::max(left, 1));
-  Q_EMIT ColumnsLaidOut();
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {
@@ -130,19 +133,24 @@ void GridView::SyncWithGrid() {
       grid_.pointer() == GridPointer::kPick ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (viewport()->cursor().shape() != shape) viewport()->setCursor(shape);
   if (press_row_ != kNone || key_anchor_.isValid()) return;
-  const bool shows_rows =
-      grid_.selection_display() == SelectionDisplay::kRows && grid_.Row() != grid_.RowSel();
-  if (shows_rows) {
-    ShowRows(grid_.Row(), grid_.RowSel());
-  } else if (selectionModel()->hasSelection()) {
-    clearSelection();
-  }
+  ShowRows(grid_.SelectedRows ? grid_.SelectedRows() : MouseRows());
 }
 
-void GridView::ShowRows(int from, int to) {
-  const auto [first, last] = std::minmax(from, to);
-  const QItemSelection rows(model()->index(first, 0), model()->index(last, grid_.Cols() - 1));
-  selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+RowRange GridView::MouseRows() const {
+  const bool shows_rows =
+      grid_.selection_display() == SelectionDisplay::kRows && grid_.Row() != grid_.RowSel();
+  if (!shows_rows) return {};
+  return Between(grid_.Row(), grid_.RowSel());
+}
+
+void GridView::ShowRows(RowRange range) {
+  QItemSelection rows;
+  if (range.first <= range.last) {
+    rows.select(model_->index(range.first, 0), model_->index(range.last, grid_.Cols() - 1));
+  }
+  if (rows != selectionModel()->selection()) {
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+  }
 }
 
 int GridView::RowNear(int y) const {
@@ -154,13 +162,16 @@ int GridView::RowNear(int y) const {
 void GridView::mousePressEvent(QMouseEvent* event) {
   const QModelIndex cell = indexAt(event->pos());
   if (event->button() != Qt::LeftButton || !cell.isValid()) return;
+  if (press_row_ != kNone) EndDrag();
   press_row_ = cell.row();
-  press_column_ = cell.column();
-  gate_.Enter([&] { grid_.PressCell(press_row_, press_column_); });
+  drag_row_ = press_row_;
+  gate_.Enter([&] { grid_.PressCell(cell.row(), cell.column()); });
 }
 
 void GridView::mouseMoveEvent(QMouseEvent* event) {
   pointer_ = event->pos();
+  // A message box that opened at the press has taken what let go.
+  if (press_row_ != kNone && !event->buttons().testFlag(Qt::LeftButton)) EndDrag();
   if (press_row_ != kNone) {
     DragTo(pointer_.y());
     const bool outside = pointer_.y() < 0 || pointer_.y() >= viewport()->height();
@@ -177,14 +188,30 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void GridView::DragTo(int y) {
-  const int row = RowNear(y);
-  if (grid_.selection_display() != SelectionDisplay::kRows) return;
-  if (row != press_row_ || selectionModel()->hasSelection()) ShowRows(press_row_, row);
+  drag_row_ = RowNear(y);
+  if (grid_.DraggedRows) {
+    ShowRows(grid_.DraggedRows(drag_row_));
+  } else if (drag_row_ != press_row_ || selectionModel()->hasSelection()) {
+    ShowRows(Between(press_row_, drag_row_));
+  }
+}
+
+void GridView::EndDrag() {
+  scroll_timer_.stop();
+  press_row_ = kNone;
+  gate_.Enter([&] {
+    grid_.ReleaseAt(drag_row_);
+    grid_.ClickCell();
+  });
 }
 
 void GridView::timerEvent(QTimerEvent* event) {
   if (event->timerId() != scroll_timer_.timerId()) {
     QTableView::timerEvent(event);
+    return;
+  }
+  if (!QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+    EndDrag();
     return;
   }
   const int step = pointer_.y() < 0 ? -1 : 1;
@@ -195,13 +222,8 @@ void GridView::timerEvent(QTimerEvent* event) {
 
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || press_row_ == kNone) return;
-  scroll_timer_.stop();
-  press_row_ = kNone;
-  const int row = RowNear(event->pos().y());
-  gate_.Enter([&] {
-    grid_.ReleaseAt(row);
-    grid_.ClickCell();
-  });
+  drag_row_ = RowNear(event->pos().y());
+  EndDrag();
 }
 
 void GridView::focusInEvent(QFocusEvent* event) {
@@ -227,7 +249,21 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   QTableView::keyPressEvent(event);
   if ((event->modifiers() & Qt::ShiftModifier) == 0 || currentIndex().row() == before.row()) return;
   if (!key_anchor_.isValid()) key_anchor_ = before;
-  ShowRows(key_anchor_.row(), currentIndex().row());
+  ShowRows(Between(key_anchor_.row(), currentIndex().row()));
+}
+
+// Digits typed in one go are an address, whose row is the current one then.
+void GridView::keyboardSearch(const QString& digits) {
+  if (address_digits_ == 0) return QTableView::keyboardSearch(digits);
+  if (!since_typed_.isValid() || since_typed_.elapsed() > kLongestPauseMs) typed_.clear();
+  since_typed_.start();
+  bool is_number = false;
+  const QString typed = (typed_ + digits).right(address_digits_);
+  const int row = typed.toInt(&is_number, kHexadecimal) + grid_.FixedRows();
+  if (!is_number || row >= grid_.Rows()) return;
+  typed_ = typed;
+  selectionModel()->setCurrentIndex(model_->index(row, 0), QItemSelectionModel::NoUpdate);
+  scrollTo(currentIndex(), PositionAtCenter);
 }
 
 // Letting go of Shift ends a selection of rows as letting go of the mouse does.

@@ -4,9 +4,9 @@
 #define QUILLA_WINDOW_GRID_VIEW_H_
 
 #include <QBasicTimer>
+#include <QElapsedTimer>
 #include <QPersistentModelIndex>
 #include <QTableView>
-#include <vector>
 
 #include "platform/grid.h"
 #include "window/gate.h"
@@ -20,13 +20,14 @@ class GridView : public QTableView {
  public:
   GridView(Gate& gate, Grid& grid, QWidget* parent);
 
-  /// Widths in pixels, as they were laid out last.
-  std::vector<int> ColumnWidths() const;
+  /// Gives the columns of a grid whose rows hold no headings these.
+  void SetHeadings(const QStringList& headings);
+  /// Has digits that are typed lead to the row of that address, where the rows are in the order of
+  /// their addresses; `count` digits are a whole one.
+  void set_address_digits(int count) { address_digits_ = count; }
   /// Brings the selection and the pointer shape in line with the grid.
   void SyncWithGrid();
-
- Q_SIGNALS:
-  void ColumnsLaidOut();
+  void keyboardSearch(const QString& digits) override;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -46,8 +47,10 @@ class GridView : public QTableView {
   void HideHeadingRows();
   void LayOutColumns();
   void FitRows();
-  void ShowRows(int from, int to);
+  void ShowRows(RowRange range);
+  RowRange MouseRows() const;
   void DragTo(int y);
+  void EndDrag();
   void KeepInView(int row);
   /// Does what a drag with the mouse does, a click where both rows are one.
   void Drag(const QModelIndex& from, int to_row);
@@ -58,11 +61,15 @@ class GridView : public QTableView {
 
   Gate& gate_;
   Grid& grid_;
+  GridModel* const model_;
   int press_row_ = kNone;
-  int press_column_ = kNone;
+  int drag_row_ = kNone;              // where a drag stood last
   QPersistentModelIndex key_anchor_;  // where rows began to be selected with the keys
   QPoint pointer_;
   QBasicTimer scroll_timer_;
+  int address_digits_ = 0;
+  QString typed_;
+  QElapsedTimer since_typed_;
 };
 
 }  // namespace quilla

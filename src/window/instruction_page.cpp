@@ -1,12 +1,13 @@
 #include "window/instruction_page.h"
 
-#include <QApplication>
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <array>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 #include "isa/instruction_set.h"
@@ -20,6 +21,8 @@ constexpr int kFamilyGap = 10;
 constexpr int kKeyGap = 2;
 constexpr double kHeadingScale = 0.9;
 constexpr int kMostColumns = 4;
+// A longer pause ends the typing of a name.
+constexpr int kLongestPauseMs = 1000;
 
 struct Family {
   const char* heading = nullptr;
@@ -92,6 +95,7 @@ void InstructionPage::AddKey(const char* name, QGridLayout& layout, QPoint place
   QWidget* const key = MakeKey(mirror_, this, "INST", index);
   key->setFocusPolicy(Qt::ClickFocus);
   key->installEventFilter(this);
+  connect(static_cast<QPushButton*>(key), &QPushButton::clicked, this, [this] { typed_.clear(); });
   layout.addWidget(key, place.y(), place.x());
   key_of_.insert(key, keys_.size());
   keys_.push_back({key, &mirror_.Get<Button>("INST", index), place});
@@ -127,7 +131,9 @@ bool InstructionPage::HandleKey(const QKeyEvent& event) {
       break;
   }
   const QString text = event.text();
-  return text.size() == 1 && text[0].isLetter() && LookUp(text.toUpper());
+  if (text.size() == 1 && text[0].isLetter()) return LookUp(text.toUpper());
+  typed_.clear();
+  return false;
 }
 
 // To the next key in that direction; a gap is stepped over, and an end is the end.
@@ -146,27 +152,35 @@ bool InstructionPage::MoveBy(QPoint direction) {
   return true;
 }
 
-// Letters typed in one go are the beginning of a name. A letter that leads nowhere begins anew, and
-// the same letter again goes on to the next key with it.
+// Letters typed in one go are a name or the beginning of one. A letter that leads nowhere begins
+// anew, and the same letter again goes on to the next key with it.
 bool InstructionPage::LookUp(const QString& letter) {
-  const bool in_one_go =
-      since_typed_.isValid() && since_typed_.elapsed() < QApplication::keyboardInputInterval();
+  if (!since_typed_.isValid() || since_typed_.elapsed() > kLongestPauseMs) typed_.clear();
   since_typed_.start();
-  typed_ = in_one_go && typed_ != letter ? typed_ + letter : letter;
-  for (const QString& beginning : {typed_, letter}) {
-    const std::size_t first = beginning.size() > 1 ? last_key_ : last_key_ + 1;
-    for (std::size_t i = 0; i < keys_.size(); ++i) {
-      const std::size_t key = (first + i) % keys_.size();
-      if (!ToQt(keys_[key].button->caption()).startsWith(beginning)) continue;
-      typed_ = beginning;
-      MoveTo(key);
-      return true;
-    }
+  for (const QString& beginning : {typed_ + letter, letter}) {
+    const std::optional<std::size_t> key = KeyOf(beginning);
+    if (!key) continue;
+    MoveTo(*key);
+    typed_ = beginning;
+    break;
   }
   return true;
 }
 
+std::optional<std::size_t> InstructionPage::KeyOf(const QString& beginning) const {
+  std::optional<std::size_t> found;
+  const std::size_t first = beginning.size() > 1 ? last_key_ : last_key_ + 1;
+  for (std::size_t i = 0; i < keys_.size(); ++i) {
+    const std::size_t key = (first + i) % keys_.size();
+    const QString name = ToQt(keys_[key].button->caption());
+    if (name == beginning) return key;
+    if (!found && name.startsWith(beginning)) found = key;
+  }
+  return found;
+}
+
 void InstructionPage::MoveTo(std::size_t key) {
+  typed_.clear();
   keys_[key].widget->setFocus(Qt::TabFocusReason);
   const Button* const button = keys_[key].button;
   mirror_.gate().Enter([button] { button->Hover(); });

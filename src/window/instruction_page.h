@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QHash>
 #include <QPoint>
+#include <optional>
 #include <vector>
 
 #include "window/box_page.h"
@@ -40,6 +41,8 @@ class InstructionPage : public BoxPage {
   bool HandleKey(const QKeyEvent& event);
   bool MoveBy(QPoint direction);
   bool LookUp(const QString& letter);
+  /// The key with that name, else the next one whose name begins so.
+  std::optional<std::size_t> KeyOf(const QString& beginning) const;
   void MoveTo(std::size_t key);
   void MakeTabStop(std::size_t key);
 

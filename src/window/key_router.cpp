@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include "platform/text_box.h"
@@ -30,7 +31,7 @@ bool KeyRouter::Press(const QKeyEvent& key) {
   switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      return ChooseButton(mirror_.form().default_button()) || ClickFocusedButton();
+      return ClickFocusedButton() || ChooseButton(mirror_.form().default_button());
     case Qt::Key_Escape:
       return ChooseButton(mirror_.form().cancel_button());
     default:
@@ -54,14 +55,25 @@ bool KeyRouter::ChooseButton(Button* button) {
   return true;
 }
 
+bool KeyRouter::IsHeld(const QWidget& widget, const QKeyEvent& key) {
+  if (!key.isAutoRepeat()) return false;
+  const bool writes_blanks = qobject_cast<const QLineEdit*>(&widget) != nullptr;
+  return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
+         (key.key() == Qt::Key_Space && !writes_blanks);
+}
+
+// A button out of sight may have the focus, but does not show it.
 bool KeyRouter::ClickFocusedButton() {
   auto* const button = qobject_cast<QPushButton*>(mirror_.window().focusWidget());
-  if (button != nullptr) button->click();
-  return button != nullptr;
+  if (button == nullptr || !button->parentWidget()->rect().intersects(button->geometry())) {
+    return false;
+  }
+  button->click();
+  return true;
 }
 
 // A character goes to the control with the focus, or to the box around it, or, where these take
-// none, to the control that the program last gave the focus.
+// none and the window has them go further, to the control that the program last gave the focus.
 bool KeyRouter::PassCharacter(const QKeyEvent& key) {
   const QString text = key.text();
   if (text.size() != 1 || text[0] < kFirstPrintable || text[0] > kLastPrintable) return false;
@@ -72,12 +84,14 @@ bool KeyRouter::PassCharacter(const QKeyEvent& key) {
 }
 
 Control* KeyRouter::KeyTaker() const {
-  Control* control = mirror_.ControlAt(mirror_.window().focusWidget());
+  Control* const focused = mirror_.ControlAt(mirror_.window().focusWidget());
+  Control* control = focused;
   const bool takes_text = dynamic_cast<const TextBox*>(control) != nullptr ||
                           dynamic_cast<const ComboBox*>(control) != nullptr;
   if (takes_text) return nullptr;
   while (control != nullptr && !control->TakesKeys()) control = control->container();
-  return control == nullptr ? mirror_.form().focused() : control;
+  if (control != nullptr) return control;
+  return focused == nullptr || mirror_.passes_characters_on ? mirror_.form().focused() : nullptr;
 }
 
 }  // namespace quilla

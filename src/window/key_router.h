@@ -8,6 +8,7 @@
 
 class QAbstractButton;
 class QKeyEvent;
+class QWidget;
 
 namespace quilla {
 
@@ -21,6 +22,9 @@ class KeyRouter {
   bool IsAccessKey(const QKeyEvent& key) const { return ButtonOf(key) != nullptr; }
   /// Acts on a key; false leaves it to the widget with the focus.
   bool Press(const QKeyEvent& key);
+  /// Whether a key only repeats, since it is held, what it pressed on `widget` or on another widget
+  /// before: the one that has the focus now must not be pressed by it.
+  static bool IsHeld(const QWidget& widget, const QKeyEvent& key);
 
  private:
   QAbstractButton* ButtonOf(const QKeyEvent& access_key) const;

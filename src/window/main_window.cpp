@@ -3,12 +3,14 @@
 #include <QBoxLayout>
 #include <QEvent>
 #include <QFrame>
-#include <QScreen>
-#include <algorithm>
+#include <QHeaderView>
+#include <QLabel>
 
 #include "window/bindings.h"
 #include "window/box_pages.h"
 #include "window/menus.h"
+#include "window/qt_text.h"
+#include "window/screen_room.h"
 
 namespace quilla {
 namespace {
@@ -32,7 +34,6 @@ MainWindow::MainWindow(Gate& gate, EventLoop& event_loop, Form& form)
   auto* const column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  column->addWidget(MakeHeadings());
   column->addWidget(MakeProgramTable(), 1);
   column->addWidget(MakeBoxes());
   column->addWidget(MakeTipLine());
@@ -40,43 +41,27 @@ MainWindow::MainWindow(Gate& gate, EventLoop& event_loop, Form& form)
   setCentralWidget(content);
   for (QWidget* widget : findChildren<QWidget*>()) widget->setMouseTracking(true);
   mirror_.focus_home = [this] { FocusHome(); };
+  connect(&gate, &Gate::Entered, this, [this] { box_before_ = boxes_->top(); });
+  connect(&gate, &Gate::Left, this, &MainWindow::FocusNewBox);
 
   const QSize preferred(kPreferredDigits * fontMetrics().horizontalAdvance(u'0'),
                         kPreferredLines * fontMetrics().lineSpacing());
-  resize(preferred.boundedTo(screen()->availableSize()));
-}
-
-QWidget* MainWindow::MakeHeadings() {
-  auto* const strip = new QFrame(this);
-  strip->setFrameShape(QFrame::StyledPanel);
-  auto* const row = new QHBoxLayout(strip);
-  row->setContentsMargins(0, 2, 0, 2);
-  row->setSpacing(0);
-  const auto& grid = mirror_.Get<Grid>(kTable);
-  for (int column = 0; column < grid.Cols(); ++column) {
-    QWidget* const heading = MakeBold(mirror_, strip, "HeadLabel", column);
-    const bool left = grid.ColAlignment(column) == kAlignLeft;
-    static_cast<QLabel*>(heading)->setAlignment(left ? Qt::AlignLeft : Qt::AlignHCenter);
-    static_cast<QLabel*>(heading)->setMargin(2);
-    row->addWidget(heading);
-    headings_.push_back(heading);
-  }
-  row->addStretch();
-  return strip;
+  const QSize room = RoomOnScreen(*this);
+  resize(preferred.boundedTo(room));
+  if (size() != preferred) setWindowState(Qt::WindowMaximized);
 }
 
 QWidget* MainWindow::MakeProgramTable() {
   table_ = MakeTable(mirror_, this, kTable);
   table_->setFrameShape(QFrame::NoFrame);
-  connect(table_, &GridView::ColumnsLaidOut, this, &MainWindow::AlignHeadings);
-  return table_;
-}
-
-void MainWindow::AlignHeadings() {
-  const std::vector<int> widths = table_->ColumnWidths();
-  for (std::size_t i = 0; i < std::min(widths.size(), headings_.size()); ++i) {
-    headings_[i]->setFixedWidth(widths[i]);
+  QStringList headings;
+  for (int column = 0; column < mirror_.Get<Grid>(kTable).Cols(); ++column) {
+    auto& label = mirror_.Get<Label>("HeadLabel", column);
+    mirror_.Register(label, *table_->horizontalHeader());
+    headings << ToQt(label.caption());
   }
+  table_->SetHeadings(headings);
+  return table_;
 }
 
 QWidget* MainWindow::MakeBoxes() {
@@ -127,6 +112,14 @@ void MainWindow::changeEvent(QEvent* event) {
   readable.setColor(QPalette::Disabled, QPalette::WindowText,
                     palette().color(QPalette::Active, QPalette::WindowText));
   mirror_.WidgetOf(mirror_.Get<Label>("TipsLabel"))->setPalette(readable);
+}
+
+// A box that has just opened is what the user goes on with, from wherever it was opened.
+void MainWindow::FocusNewBox() {
+  const QWidget* const box = boxes_->top();
+  if (box == nullptr || box == box_before_ || box == instructions_) return;
+  box_before_ = box;
+  if (focusWidget() != box && !box->isAncestorOf(focusWidget())) FocusHome();
 }
 
 void MainWindow::FocusHome() {

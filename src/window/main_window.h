@@ -1,11 +1,9 @@
-// The window of the main panel: menu bar, the program table with its headings, the place where the
+// The window of the main panel: menu bar, the program table, the place where the
 // input boxes open, and the tip line.
 #ifndef QUILLA_WINDOW_MAIN_WINDOW_H_
 #define QUILLA_WINDOW_MAIN_WINDOW_H_
 
-#include <QLabel>
 #include <QMainWindow>
-#include <vector>
 
 #include "window/box_area.h"
 #include "window/form_mirror.h"
@@ -26,18 +24,17 @@ class MainWindow : public QMainWindow {
   void changeEvent(QEvent* event) override;
 
  private:
-  QWidget* MakeHeadings();
   QWidget* MakeProgramTable();
   QWidget* MakeBoxes();
   QWidget* MakeTipLine();
   QWidget* MakeStrip(const char* box, const char* heading, const char* label, int stretch);
-  void AlignHeadings();
+  void FocusNewBox();
   void FocusHome();
 
   FormMirror mirror_;
-  std::vector<QWidget*> headings_;
   GridView* table_ = nullptr;
   BoxArea* boxes_ = nullptr;
+  const QWidget* box_before_ = nullptr;
   InstructionPage* instructions_ = nullptr;
 };
 

@@ -51,6 +51,11 @@ RenumberWindow::RenumberWindow(Gate& gate, EventLoop& event_loop, Form& form)
   grid->addWidget(MakeDigitKeys(), 1, 1, Qt::AlignTop);
   grid->addWidget(Make(mirror_, this, "DoneButton"), 2, 1, Qt::AlignBottom | Qt::AlignRight);
   grid->setRowStretch(1, 1);
+  mirror_.focus_home = [this] {
+    for (GridView* table : findChildren<GridView*>()) {
+      if (table->isVisible()) table->setFocus(Qt::OtherFocusReason);
+    }
+  };
 }
 
 QWidget* RenumberWindow::MakePage(const PageNames& names) {

@@ -3,9 +3,11 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollArea>
 
 #include "window/bindings.h"
 #include "window/keypad.h"
+#include "window/screen_room.h"
 
 namespace quilla {
 namespace {
@@ -16,7 +18,10 @@ constexpr int kCellWidth = 24;
 constexpr int kLineWidth = 24;
 constexpr int kInstructionWidth = 50;
 constexpr int kInterruptRows = 7;
-constexpr int kTallRows = 20;
+constexpr int kFewestRows = 6;
+constexpr int kPreferredLines = 38;
+constexpr int kAddressDigits = 4;
+constexpr int kPortDigits = 2;
 
 /// Makes a table as high as its heading and so many rows.
 void ShowRows(GridView& table, int rows) {
@@ -42,10 +47,29 @@ WatchWindow::WatchWindow(Gate& gate, EventLoop& event_loop, Form& form)
   keys->addWidget(MakeStartingAddress());
   tables->addLayout(keys);
   tables->addStretch();
-  auto* const column = new QVBoxLayout(this);
+  auto* const content = new QWidget(this);
+  auto* const column = new QVBoxLayout(content);
   column->setSpacing(kGap);
   column->addLayout(MakeInstruction());
   column->addLayout(tables, 1);
+  findChild<GridView*>("MemoryTable")->set_address_digits(kAddressDigits);
+  findChild<GridView*>("PortTable")->set_address_digits(kPortDigits);
+  mirror_.passes_characters_on = false;
+  PutInScrollArea(*content);
+}
+
+// Where the screen has no room for the whole, it scrolls.
+void WatchWindow::PutInScrollArea(QWidget& content) {
+  auto* const area = new QScrollArea(this);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  area->setWidget(&content);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(area);
+  const QSize wish(content.sizeHint().width(), kPreferredLines * fontMetrics().lineSpacing());
+  resize(wish.expandedTo(content.minimumSizeHint()).boundedTo(RoomOnScreen(*this)));
 }
 
 GridView* WatchWindow::MakeTableOfWidth(const char* name, int width_in_digits) {
@@ -60,7 +84,8 @@ QLayout* WatchWindow::MakeInstruction() {
   auto* const line = new QHBoxLayout;
   line->setSpacing(kGap);
   line->addWidget(table);
-  line->addWidget(Make(mirror_, this, "ExecuteButton"));
+  execute_ = Make(mirror_, this, "ExecuteButton");
+  line->addWidget(execute_);
   line->addWidget(Make(mirror_, this, "StepNoteLabel"), 1);
   auto* const column = new QVBoxLayout;
   column->addWidget(MakeBold(mirror_, this, "InstructionCaption"));
@@ -71,7 +96,7 @@ QLayout* WatchWindow::MakeInstruction() {
 QBoxLayout* WatchWindow::MakeTall(const char* caption, const char* table_name,
                                   int width_in_digits) {
   GridView* const table = MakeTableOfWidth(table_name, width_in_digits);
-  table->setMinimumHeight(kTallRows * table->verticalHeader()->defaultSectionSize());
+  table->setMinimumHeight(kFewestRows * table->verticalHeader()->defaultSectionSize());
   auto* const column = new QVBoxLayout;
   column->addWidget(MakeBold(mirror_, this, caption));
   column->addWidget(table, 1);
@@ -135,7 +160,11 @@ QWidget* WatchWindow::MakeStartingAddress() {
   column->setContentsMargins(0, 0, 0, 0);
   column->addLayout(line);
   column->addWidget(MakeKeypad(mirror_, box, "NUM"));
-  column->addWidget(Make(mirror_, box, "AcceptButton"));
+  auto* const accept = static_cast<QAbstractButton*>(Make(mirror_, box, "AcceptButton"));
+  column->addWidget(accept);
+  // What follows a starting address is stepping.
+  connect(accept, &QAbstractButton::clicked, this,
+          [this] { execute_->setFocus(Qt::OtherFocusReason); });
   Bind(mirror_, mirror_.Get<Box>("AddrBox"), *box);
   return box;
 }

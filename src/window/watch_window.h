@@ -28,7 +28,10 @@ class WatchWindow : public QWidget {
   QWidget* MakeStartingAddress();
   GridView* MakeTableOfWidth(const char* name, int width_in_digits);
 
+  void PutInScrollArea(QWidget& content);
+
   FormMirror mirror_;
+  QWidget* execute_ = nullptr;
 };
 
 }  // namespace quilla

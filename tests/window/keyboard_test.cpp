@@ -2,6 +2,9 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
 #include <set>
 
 #include "window/panel_fixture.h"
@@ -14,6 +17,15 @@ class KeyboardTest : public PanelTest {
   void StartOrigin() {
     window().findChild<QAction*>("NewOrigin")->trigger();
     outside_.clock.PassAll();
+  }
+  /// Enters a row with a label and one with a variable.
+  void EnterStrings() {
+    Click("INST 37");
+    Type("loop");
+    Press(Qt::Key_Return);
+    Click("INST 1");
+    Type("aone");
+    Press(Qt::Key_Return);
   }
 };
 
@@ -31,6 +43,96 @@ TEST_F(KeyboardTest, EntersAnInstruction) {
   EXPECT_EQ(Cell(1, kMnemonicColumn), "MVI  A,   one");
   EXPECT_EQ(state(), PanelState::kReady);
   EXPECT_EQ(FocusName(), "INST 1") << "the key used last, so that the next one is near";
+}
+
+TEST_F(KeyboardTest, KeysInTheMenuBarStayThere) {
+  Find("INST 5").setFocus();
+  Press(Qt::Key_E, Qt::AltModifier);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  EXPECT_EQ(FocusName(), "INST 5") << "back where it was";
+  window().menuBar()->setFocus();
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_J, Qt::Key_Right}) {
+    QTest::keyClick(window().menuBar(), key);
+    if (QWidget* const menu = QApplication::activePopupWidget()) menu->close();
+    EXPECT_EQ(Cell(1, kOpcodeColumn), "");
+  }
+}
+
+TEST_F(KeyboardTest, ACommandLeavesTheFocusInTheBoxThatItOpens) {
+  EnterStrings();
+  const auto focus_after = [this](const char* from, const char* command) {
+    Find(from).setFocus();
+    window().findChild<QAction*>(command)->trigger();
+    EXPECT_NE(state(), PanelState::kReady) << command;
+    const std::string focus = FocusName();
+    Press(Qt::Key_Escape);
+    return focus;
+  };
+  EXPECT_NE(focus_after("Table1", "ReplaceLabel"), "Table1");
+  EXPECT_NE(focus_after("Table1", "FindVariable"), "Table1");
+  EXPECT_EQ(focus_after("INST 1", "DeleteLabels"), "Table1") << "there is no box";
+}
+
+TEST_F(KeyboardTest, HeldKeysPressNothing) {
+  Type("NOP");
+  for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_Space ? " " : "\r", true);
+    for (int i = 0; i < 3; ++i) QApplication::sendEvent(window().focusWidget(), &held);
+    Find("Table1").setFocus();
+  }
+  EXPECT_EQ(Cell(1, kOpcodeColumn), "");
+  QMessageBox box(QMessageBox::Information, "title", "text", QMessageBox::Ok, &window());
+  box.show();
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QApplication::sendEvent(box.button(QMessageBox::Ok), &held);
+  EXPECT_TRUE(box.isVisible());
+}
+
+TEST_F(KeyboardTest, EveryNameTypedEndsOnItsKey) {
+  int start = 0;
+  for (int i = 0; i < kInstructionKeyCount; ++i) {
+    start = (start + 31) % kInstructionKeyCount;
+    Find("INST " + QString::number(start)).setFocus();
+    const QString key = "INST " + QString::number(i);
+    Type(Find<QPushButton>(key).text().toLower());
+    EXPECT_EQ(FocusName(), key.toStdString());
+  }
+}
+
+TEST_F(KeyboardTest, EnterStepsTheSimulatorBehindAnAddress) {
+  Click("INST 78");
+  QWidget& simulator = OpenSimulator();
+  const auto press = [&](int key, const QString& text = {}) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(simulator.focusWidget(), &event);
+  };
+  const auto text_of = [&](const char* label) {
+    return simulator.findChild<QLabel*>(label)->text();
+  };
+  for (const char* digit : {"0", "0", "1", "0"}) press(0, digit);
+  EXPECT_EQ(text_of("AddrLbl"), "0010");
+  press(Qt::Key_Return);
+  EXPECT_EQ(simulator.focusWidget()->objectName(), "ExecuteButton");
+  press(0, "5");
+  for (int i = 0; i < 3; ++i) press(Qt::Key_Return);
+  EXPECT_EQ(text_of("AddrLbl"), "0010");
+  const auto* const row = simulator.findChild<GridView*>("InstructionTable")->model();
+  EXPECT_EQ(row->index(1, 1).data(), "0013");
+  auto* const memory = simulator.findChild<GridView*>("MemoryTable");
+  memory->setFocus();
+  for (const char* digit : {"8", "0", "0", "a"}) press(0, digit);
+  EXPECT_EQ(memory->currentIndex().row(), 0x800B);
+  EXPECT_EQ(text_of("AddrLbl"), "0010");
+}
+
+TEST_F(KeyboardTest, EnterPressesThePushButtonThatShowsTheFocus) {
+  EnterStrings();
+  window().findChild<QAction*>("FindLabel")->trigger();
+  Find("FindDoneButton").setFocus();
+  Press(Qt::Key_Return);
+  EXPECT_EQ(state(), PanelState::kReady);
+  EXPECT_NE(session().Table1.BackColor(1, kMnemonicColumn), kFoundColor);
 }
 
 TEST_F(KeyboardTest, EnterPressesTheFocusedKeyWhereThereIsNoDefault) {

@@ -57,16 +57,32 @@ TEST_P(LayoutTest, EveryBoxIsWholeAndNothingJumps) {
 }
 
 TEST_P(LayoutTest, ColumnsHoldTheirUsualTexts) {
-  const std::vector<int> widths = Find<GridView>("Table1").ColumnWidths();
+  const auto& table = Find<GridView>("Table1");
   const QFontMetrics metrics(window().font());
   constexpr int kMargins = 10;
-  EXPECT_GE(widths[0], metrics.horizontalAdvance("Origin") + kMargins);
-  EXPECT_GE(widths[1], metrics.horizontalAdvance("8000") + kMargins);
-  EXPECT_GE(widths[2], metrics.horizontalAdvance("LXI  SP,  number") + kMargins);
-  EXPECT_GE(widths[3], metrics.horizontalAdvance("C3   XX   XX") + kMargins);
+  EXPECT_GE(table.columnWidth(0), metrics.horizontalAdvance("Origin") + kMargins);
+  EXPECT_GE(table.columnWidth(1), metrics.horizontalAdvance("8000") + kMargins);
+  EXPECT_GE(table.columnWidth(2), metrics.horizontalAdvance("LXI  SP,  number") + kMargins);
+  EXPECT_GE(table.columnWidth(3), metrics.horizontalAdvance("C3   XX   XX") + kMargins);
 }
 
 INSTANTIATE_TEST_SUITE_P(FontPercent, LayoutTest, testing::Values(100, 150));
+
+// The tests' screen is 800 pixels high and wide: less than what the panel wishes.
+TEST_F(PanelTest, TheWindowsFitTheScreenFrameAndAll) {
+  const QSize room = window().screen()->availableSize();
+  Gate gate;
+  MainWindow panel(gate, outside_.event_loop, session().ProgrammingPanel);
+  EXPECT_TRUE(panel.isMaximized());
+  EXPECT_LT(panel.height(), room.height());
+  window().resize(2000, 700);
+  QCoreApplication::processEvents();
+  EXPECT_LT(window().minimumSizeHint().width(), kSmallScreen.width());
+  EXPECT_EQ(Find<GridView>("Table1").model()->headerData(4, Qt::Horizontal), "Comment");
+  QWidget& simulator = OpenSimulator();
+  EXPECT_LT(simulator.height(), room.height());
+  EXPECT_LE(simulator.minimumSizeHint().width(), 640);
+}
 
 class TableTest : public PanelTest {
  protected:
@@ -96,6 +112,58 @@ TEST_F(TableTest, ADragShowsItsRowsWhileItRunsAndUntilTheCursorMoves) {
   EXPECT_EQ(session().SelectionBottom, 4);
   Click("INST 78");
   EXPECT_EQ(ShownRows(), std::pair(-1, -1));
+}
+
+TEST_F(TableTest, TheRowsShownAreThoseThatCount) {
+  for (int i = 0; i < 6; ++i) Click("INST 78");
+  QWidget* const viewport = table().viewport();
+  const auto drag = [&](int from, int to, bool escape = false) {
+    QTest::mousePress(viewport, Qt::LeftButton, {}, CellCenter(from, kMnemonicColumn));
+    QMouseEvent move(QEvent::MouseMove, CellCenter(to, kMnemonicColumn), {}, Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &move);
+    if (escape) Press(Qt::Key_Escape);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, CellCenter(to, kMnemonicColumn));
+    EXPECT_EQ(ShownRows(), std::pair(session().SelectionTop, session().SelectionBottom));
+  };
+  drag(0, 3);
+  EXPECT_EQ(ShownRows(), std::pair(1, 3));
+  drag(3, 0);
+  EXPECT_EQ(ShownRows(), std::pair(0, 3));
+  drag(4, 2, true);
+  drag(2, 4);
+  QTest::mouseClick(viewport, Qt::LeftButton, {}, CellCenter(5, kCommentColumn));
+  EXPECT_EQ(ShownRows(), std::pair(2, 4)) << "still what Delete takes";
+}
+
+TEST_F(TableTest, ADragEndsWhereTheButtonIsFoundUp) {
+  QTest::mousePress(table().viewport(), Qt::LeftButton, {}, CellCenter(2, kMnemonicColumn));
+  for (const Qt::MouseButtons buttons : {Qt::LeftButton, Qt::NoButton}) {
+    QMouseEvent move(QEvent::MouseMove, CellCenter(buttons ? 4 : 6, kMnemonicColumn), {},
+                     Qt::NoButton, buttons, Qt::NoModifier);
+    QApplication::sendEvent(table().viewport(), &move);
+  }
+  EXPECT_EQ(session().SelectionBottom, 4);
+  EXPECT_EQ(ShownRows(), std::pair(2, 4));
+}
+
+TEST_F(PanelTest, AnInterruptKeyIsHeldUntilItsButtonIsLetGo) {
+  QWidget& simulator = OpenSimulator();
+  for (const auto& [line, held] : {std::pair("IButton 2", "1"), std::pair("IButton 1", "1")}) {
+    auto* const key = simulator.findChild<QAbstractButton*>(line);
+    for (const Qt::MouseButton by : {Qt::LeftButton, Qt::RightButton}) {
+      QTest::mousePress(key, by);
+      const QString pressed = key->text();
+      for (const QPoint place : {QPoint(-9, -9), QPoint(3, 3), QPoint(-9, -9)}) {
+        QMouseEvent move(QEvent::MouseMove, place, {}, Qt::NoButton, by, Qt::NoModifier);
+        QApplication::sendEvent(key, &move);
+        EXPECT_EQ(key->text(), pressed) << line;
+      }
+      EXPECT_EQ(pressed == held, by == Qt::LeftButton || line == std::string("IButton 2"));
+      QTest::mouseRelease(key, by, {}, QPoint(-9, -9));
+    }
+    EXPECT_EQ(key->text(), "0");
+  }
 }
 
 TEST_F(TableTest, TheCursorStaysInView) {

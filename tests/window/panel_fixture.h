@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QTest>
 #include <sstream>
@@ -56,6 +57,14 @@ class PanelTest : public testing::Test {
     QTest::keyClick(window().focusWidget(), key, modifiers);
   }
   void Click(const QString& name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
+  QWidget& OpenSimulator() {
+    window().findChild<QAction*>("SimulationView")->trigger();
+    outside_.clock.PassAll();
+    for (const auto& [form, shown] : hands_.shown()) {
+      if (form->name() == "WatchWindowDialog") return *shown.window;
+    }
+    throw std::logic_error("no simulator");
+  }
   std::string Cell(int row, Column column) { return session().Table1.TextMatrix(row, column); }
 
   std::ostringstream transcript_;

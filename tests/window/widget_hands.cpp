@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <exception>
 #include <stdexcept>
@@ -60,6 +61,7 @@ void WidgetHands::Open(Form& form) {
   if (shown.window == nullptr) {
     shown.window = MakeWindow(gate_, event_loop_, form);
     shown.mirror = shown.window->findChild<FormMirror*>();
+    shown.window->setWindowState(Qt::WindowNoState);
     if (shown.window->width() > kSmallScreen.width()) shown.window->resize(kSmallScreen);
   }
   shown.window->show();
@@ -160,6 +162,7 @@ void WidgetHands::Drag(Grid& grid, Cell from, Cell to) {
 }
 
 void WidgetHands::Hover(Control& control) {
+  if (dynamic_cast<MenuEntry*>(&control) != nullptr) return;  // no handler hears of it
   const auto found = shown_.find(dynamic_cast<const Form*>(&control));
   QWidget& widget = found == shown_.end() ? WidgetOf(control) : *found->second.window;
   MovePointer(widget, widget.rect().center());
@@ -172,8 +175,12 @@ void WidgetHands::HoverCell(Grid& grid, Cell cell) {
   Settle();
 }
 
+// A button that has been clicked last has the focus, and would be what Enter presses.
 void WidgetHands::Enter(Form& form) {
-  PressKey(*shown_.at(&form).window, Qt::Key_Return);
+  QWidget& window = *shown_.at(&form).window;
+  if (qobject_cast<QPushButton*>(window.focusWidget()) != nullptr)
+    window.focusWidget()->clearFocus();
+  PressKey(window, Qt::Key_Return);
   Settle();
 }
 

@@ -1,13 +1,16 @@
 #include "robot/changes.h"
 
 #include <algorithm>
+#include <charconv>
 #include <initializer_list>
 #include <set>
 #include <sstream>
 #include <utility>
 
+#include "isa/instruction_set.h"
 #include "platform/button.h"
 #include "platform/grid.h"
+#include "platform/number_text.h"
 #include "platform/text_box.h"
 #include "platform/text_list.h"
 #include "robot/report.h"
@@ -24,6 +27,34 @@ std::string CursorMove(int from, int to) {
   const std::string off = std::to_string(from) + ",2=own";
   const std::string on = std::to_string(to) + ",2=cursor";
   return "Table1 colors " + (from < to ? off + " " + on : on + " " + off) + "\n";
+}
+
+/// The comment that a row has without the user; empty for none.
+std::string DefaultComment(const Session& session, int row) {
+  if (session.Table1.TextMatrix(row, kMnemonicColumn) == kDataMnemonic) return "Data Byte.";
+  const std::string& cell = session.Table1.TextMatrix(row, kOpcodeColumn);
+  int opcode = 0;
+  if (std::from_chars(cell.data(), cell.data() + std::min<std::size_t>(cell.size(), kByteDigits),
+                      opcode, 0x10)
+          .ec != std::errc()) {
+    return {};
+  }
+  const bool has_operand = cell.size() > kByteDigits;
+  return std::string(BeforeList(opcode))
+      .append(has_operand ? session.OperandOf(row) : "")
+      .append(has_operand ? AfterList(opcode) : "");
+}
+
+/// The rows of the program; a comment that is the default one is told as that.
+TableRecord ProgramRecord(const Session& session) {
+  TableRecord record(session.Table1);
+  for (int row = 0; row < session.Table1.Rows(); ++row) {
+    const std::string& comment = session.Table1.TextMatrix(row, kCommentColumn);
+    if (!comment.empty() && comment == DefaultComment(session, row)) {
+      record.SetText(row, kCommentColumn, TableRecord::kDefault);
+    }
+  }
+  return record;
 }
 
 bool StandsInSight(const Control& control) {
@@ -95,7 +126,8 @@ struct Changes::News {
     }
   }
 
-  /// The name of a menu in the place of its entries, where all of them are alike now.
+  /// The name of a menu in the place of its entries, where all of them are alike now, or all but
+  /// one.
   static void JoinMenus(std::vector<Name>& names, const std::map<Name, Control*>& controls) {
     std::map<const Control*, std::set<Name>> entries;
     for (const auto& [name, control] : controls) {
@@ -107,16 +139,20 @@ struct Changes::News {
     }
     for (const auto& entry : entries) {
       const std::set<Name>& inside = entry.second;
-      const bool enabled = controls.at(*inside.begin())->enabled();
-      const auto is_alike = [&](const Name& name) {
-        return controls.at(name)->enabled() == enabled;
-      };
       const auto is_inside = [&](const Name& name) { return inside.contains(name); };
-      if (!std::ranges::all_of(inside, is_alike) || std::ranges::count_if(names, is_inside) < 2) {
-        continue;
+      const auto first = std::ranges::find_if(names, is_inside);
+      if (std::ranges::count_if(names, is_inside) < 2) continue;
+      const bool enabled = controls.at(*first)->enabled();
+      std::string whole = entry.first->name() + "/*";
+      int others = 0;
+      for (const Name& name : inside) {
+        if (controls.at(name)->enabled() == enabled) continue;
+        whole.append("-").append(TextOf(name));
+        ++others;
       }
+      if (others > 1) continue;
       std::erase_if(names, is_inside);
-      names.emplace_back(std::string(), entry.first->name() + "/*", Control::kNoIndex);
+      names.emplace_back(std::string(), whole, Control::kNoIndex);
     }
     std::ranges::sort(names);
   }
@@ -196,9 +232,8 @@ bool Changes::IsTold(const TextList& list) {
 }
 
 void Changes::Begin() {
-  for (const auto& [name, value] : VariablesOf(quilla_.panel()->session())) {
-    variables_[name] = value;
-  }
+  const Session& session = quilla_.panel()->session();
+  for (const auto& [name, value] : VariablesOf(session)) variables_[name] = value;
   for (Form* const form : quilla_.Forms()) {
     looks_[NameOf(*form)] = LookOf(*form);
     for (const Control* const control : form->controls()) {
@@ -206,6 +241,7 @@ void Changes::Begin() {
       looks_[name] = LookOf(*control);
       if (const auto* const grid = dynamic_cast<const Grid*>(control)) {
         tables_[name] = TableRecord(*grid);
+        if (control == &session.Table1) tables_[name] = ProgramRecord(session);
       } else if (const auto* const list = dynamic_cast<const TextList*>(control)) {
         tables_[name] = TableRecord(*list);
       }
@@ -224,16 +260,16 @@ void Changes::Print(std::ostream& transcript) {
     controls[NameOf(*form)] = form;
     for (Control* const control : form->controls()) controls[NameOf(*control)] = control;
   }
+  std::ostringstream lines;
   std::ostringstream tables;
   const bool cursor_moved = PrintTables(tables, controls);
-  PrintVariables(transcript, cursor_moved);
-  transcript << tables.str();
+  PrintVariables(lines, cursor_moved);
+  lines << tables.str();
   News news;
   for (const auto& [name, control] : controls) {
     if (StandsInSight(*control)) news.Compare(name, looks_[name], LookOf(*control));
   }
   for (auto* const names : {&news.enabled, &news.disabled}) News::JoinMenus(*names, controls);
-  std::ostringstream lines;
   news.Print(lines);
   WrappedLine focus(lines, "focus:");
   for (const Form* const form : forms) {
@@ -281,6 +317,21 @@ void Changes::PrintVariables(std::ostream& transcript, bool cursor_moved) {
   }
 }
 
+void Changes::PrintStrings(std::ostream& transcript, const char* name,
+                           const std::vector<const TextList*>& lists) {
+  std::vector<TableRecord> before;
+  std::vector<TableRecord> now;
+  for (const TextList* list : lists) {
+    before.push_back(tables_[NameOf(*list)]);
+    now.emplace_back(*list);
+    const bool is_parallel =
+        before.back().Rows() == before[0].Rows() && now.back().Rows() == now[0].Rows();
+    if (!is_parallel) return;
+  }
+  TableRecord::SideBySide(before).PrintTexts(transcript, name, TableRecord::SideBySide(now));
+  for (std::size_t i = 0; i < lists.size(); ++i) tables_[NameOf(*lists[i])] = now[i];
+}
+
 bool Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control*>& controls) {
   struct Table {
     std::string name;
@@ -288,25 +339,32 @@ bool Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control
     TableRecord now;
   };
   std::vector<Table> changed;
+  const Session& session = quilla_.panel()->session();
   const auto compare = [&](const Name& name, const auto& table) {
     TableRecord& before = tables_[name];
     if (!before.Matches(table)) changed.push_back({TextOf(name), &before, TableRecord(table)});
   };
+  std::ostringstream rows;
+  PrintStrings(rows, "Labels",
+               {&session.LabelCombo, &session.LabelEqtList, &session.LabelLineList,
+                &session.LabelPlacedList, &session.LabelUsedList});
+  PrintStrings(rows, "Variables", {&session.XXCombo, &session.XXEqtList});
   for (const auto& [name, control] : controls) {
-    if (const auto* const grid = dynamic_cast<const Grid*>(control)) {
+    if (control == &session.Table1) {
+      TableRecord now = ProgramRecord(session);
+      if (now != tables_[name]) changed.push_back({TextOf(name), &tables_[name], std::move(now)});
+    } else if (const auto* const grid = dynamic_cast<const Grid*>(control)) {
       compare(name, *grid);
     } else if (const auto* const list = dynamic_cast<const TextList*>(control)) {
       if (IsTold(*list)) compare(name, *list);
     }
   }
-  const Session& session = quilla_.panel()->session();
   const bool is_selected =
       session.SelectionTop == session.CurrentRow && session.SelectionBottom == session.CurrentRow;
   const std::string cursor_move =
       is_selected ? CursorMove(std::stoi(variables_["CurrentRow"]), session.CurrentRow) : "-";
   bool cursor_moved = false;
   std::ostringstream lists;
-  std::ostringstream rows;
   std::ostringstream colors;
   for (Table& table : changed) {
     table.before->PrintTexts(table.now.Columns() == 1 ? lists : rows, table.name, table.now);
@@ -319,7 +377,7 @@ bool Changes::PrintTables(std::ostream& transcript, const std::map<Name, Control
     }
     *table.before = std::move(table.now);
   }
-  transcript << Joined(lists.str()) << Joined(rows.str()) << Joined(colors.str());
+  transcript << lists.str() << rows.str() << colors.str();
   return cursor_moved;
 }
 

@@ -53,6 +53,9 @@ class Changes {
   /// `cursor_moved` if the mark of the cursor has gone with it, and nothing else has another
   /// colour.
   void PrintVariables(std::ostream& transcript, bool cursor_moved);
+  /// Writes what differs in lists that are parallel; nothing where they are not of one length.
+  void PrintStrings(std::ostream& transcript, const char* name,
+                    const std::vector<const TextList*>& lists);
   /// Says whether that is so.
   bool PrintTables(std::ostream& transcript, const std::map<Name, Control*>& controls);
   /// Adds the name of the control with the focus, or the default button, if it is in sight and

@@ -55,6 +55,7 @@ struct Run {
 
   std::string TextAt(std::size_t column) const {
     if (!to[column]) return "-";
+    if (*to[column] == TableRecord::kDefault) return TableRecord::kDefault + 1;
     const std::string text = Quoted(*from[column]);
     return from[column] == to[column] ? text : text + ".." + Quoted(*to[column]);
   }
@@ -80,6 +81,16 @@ TableRecord::TableRecord(const Grid& grid) : columns_(static_cast<std::size_t>(g
 
 TableRecord::TableRecord(const TextList& list) : is_list_(true) {
   for (const std::string& item : list.items()) cells_.push_back({item, {}, {}});
+}
+
+TableRecord TableRecord::SideBySide(const std::vector<TableRecord>& lists) {
+  TableRecord table;
+  table.columns_ = lists.size();
+  table.is_list_ = true;
+  for (int row = 0; row < lists.front().Rows(); ++row) {
+    for (const TableRecord& list : lists) table.cells_.push_back(*list.CellsOf(row));
+  }
+  return table;
 }
 
 bool TableRecord::Matches(const Grid& grid) const {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/grid.h"
@@ -19,8 +20,20 @@ class TableRecord {
   TableRecord() = default;
   explicit TableRecord(const Grid& grid);
   explicit TableRecord(const TextList& list);
+  /// The entries of lists of one length side by side, each list a column.
+  static TableRecord SideBySide(const std::vector<TableRecord>& lists);
+
+  /// A text that is written as this word, without quotes, since it follows from the other cells.
+  static constexpr const char* kDefault =
+      "\x01"
+      "default";
+  void SetText(int row, int column, std::string text) {
+    cells_[static_cast<std::size_t>(row) * columns_ + static_cast<std::size_t>(column)].text =
+        std::move(text);
+  }
 
   int Rows() const { return static_cast<int>(cells_.size() / columns_); }
+  bool operator==(const TableRecord&) const = default;
   int Columns() const { return static_cast<int>(columns_); }
   /// Whether nothing is different now.
   bool Matches(const Grid& grid) const;

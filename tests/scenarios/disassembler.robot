@@ -70,8 +70,7 @@ TipsLabel caption="Data Mode." enabled=1 visible=1
 session: Cursor=2 PanelState=29 FileChanged=1 SelectedInstruction=79 CurrentOpcode=118
     HexPath="image.hex" HexTitle="image.hex" MessageResult="7"
 HexList 0=":020000040000FA" 1=":100FFD003E1218C3FD0FC2FD0F3E12210410320028" 2=":03100D002008D0E8"
-    3=":05200000DEE60F763E54" 4=":00000001FF"
-Table1 1 - - "HLT" "76" "Halt program execution."
+    3=":05200000DEE60F763E54" 4=":00000001FF" | Table1 1 - - "HLT" "76" default
 caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
 focus: DataAcceptButton | default: DataAcceptButton
 # An undefined opcode; then operands that are not there, unwanted, or data. The dialog stays, and so
@@ -118,24 +117,18 @@ Table1 0 "Origin" "0FFD" "" "" ""
 Table1 1 "a0" "0FFD" "MVI  A,  v0" "3E   12" ""
 closed DataDialog
 session: Selection=1 PanelState=1 CurrentRow=1 LastLine=19 FileOrigin=4 NextLabelNumber=3
-    NextVariableNumber=3
-LabelCombo 0="a0" 1="a1" 2="a2" | LabelEqtList 0="0FFD" 1="1004" 2="2000"
+    NextVariableNumber=3 | LabelCombo 0="a0" 1="a1" 2="a2" | LabelEqtList 0="0FFD" 1="1004" 2="2000"
 LastAddressList 0="100D" 1="100F" 2="2004"
 OriginList count=3 (2 in at 0) 0="0FFD" 1="100F" 2="2000"
 StringTable rows=29 (3 out at 1) 1="v0" 3..4="a0" 5="v1" 6="a1" 7="a2" 16="v2"
-XXCombo 0="v0" 1="v1" 2="v2" | XXEqtList 0..1="12" 2="0F"
-Table1 rows=29 (3 out at 0) | 0 "Origin" "0FFD"
-Table1 1 "a0" "0FFD" "MVI  A,  v0" "3E   12" "Move the equivalent of 'v0' into Accumulator."
-Table1 2 - "0FFF" "-" "18" | 3 - "1000" "JMP  a0" "C3   FD   0F" "Jump to address pointed by 'a0'."
-Table1 4 - "1003" "JNZ  a0" "C2   FD   0F" "Jump on no zero, to address pointed by 'a0'."
-Table1 5 - "1006" "MVI  A,  v1" "3E   12" "Move the equivalent of 'v1' into Accumulator."
-Table1 6 - "1008" "LXI  H,  a1" "21   04   10" "Load the equivalent of 'a1' into HL-register pair."
-Table1 7 - "100B" "STA   a2" "32   00   20"
-    "Store content of Accumulator in address pointed by 'a2'." | 10 "Origin" "100F"
-Table1 11 - "100F" "RNC " "D0" "Return on no carry." | 14 "Origin" "2000"
-Table1 15 "a2" "2000" "DFB" "DE" "Data Byte."
-Table1 16 - "2001" "ANI  v2" "E6   0F" "AND the equivalent of 'v2' with content of Accumulator."
-Table1 17 - "2003" "HLT" "76" "Halt program execution." | 18 - "2004" "DFB" "3E" "Data Byte."
+Variables 0 "v0" "12" | 1 "v1" "12" | 2 "v2" "0F" | Table1 rows=29 (3 out at 0) | 0 "Origin" "0FFD"
+Table1 1 "a0" "0FFD" "MVI  A,  v0" "3E   12" default | 2 - "0FFF" "-" "18"
+Table1 3 - "1000" "JMP  a0" "C3   FD   0F" default | 4 - "1003" "JNZ  a0" "C2   FD   0F" default
+Table1 5 - "1006" "MVI  A,  v1" "3E   12" default | 6 - "1008" "LXI  H,  a1" "21   04   10" default
+Table1 7 - "100B" "STA   a2" "32   00   20" default | 10 "Origin" "100F"
+Table1 11 - "100F" "RNC " "D0" default | 14 "Origin" "2000" | 15 "a2" "2000" "DFB" "DE" default
+Table1 16 - "2001" "ANI  v2" "E6   0F" default | 17 - "2003" "HLT" "76" default
+Table1 18 - "2004" "DFB" "3E" default
 Table1 colors 0,0..4=E0E0E0 1,2=cursor 10,0..4=E0E0E0 14,0..4=E0E0E0
 caption: EntryMode="Data &Mode" TipsLabel="Disassembling completed successfully."
 shown: InstructionBox | hidden: DataBox
@@ -205,17 +198,15 @@ session: Selection=11 CurrentRow=11 LastLine=2 SelectionAnchor=31 HexPath="top.h
     HexTitle="top.hex" NextLabelNumber=0 NextVariableNumber=0
 HexList count=4 (1 out at 0) 0=":03FFFF00003AC9FC" 1=":02100000C376B5" 2=":01100200ae3F"
 LabelCombo count=0 | LabelEqtList count=0 | LastAddressList count=1 (2 out at 0) 0="FFFF"
-OriginList count=1 (2 out at 0) 0="FFFF" | StringTable rows=12 (17 out at 1) | XXCombo count=0
-XXEqtList count=0
-Table1 rows=12 (17 out at 0) | 0 "Origin" "FFFF" "" "" "" | 1 - "FFFF" "NOP" "00" "No Operation."
+OriginList count=1 (2 out at 0) 0="FFFF" | StringTable rows=12 (17 out at 1) | Variables count=0
+Table1 rows=12 (17 out at 0) | 0 "Origin" "FFFF" "" "" "" | 1 - "FFFF" "NOP" "00"
 Table1 colors 0,0..4=E0E0E0
 # A file without bytes has nothing to check, and marks that were taken back leave no program.
 > answer no ; path empty.hex ; click DisassembleFile ; changes ; click DataDialog.DataType 1
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "empty.hex"
 open DataDialog
-session: HexPath="empty.hex" HexTitle="empty.hex"
-HexList count=1 (3 out at 0)
+session: HexPath="empty.hex" HexTitle="empty.hex" | HexList count=1 (3 out at 0)
 DataDialog.DataTable rows=1 | 0 "Address" "Data" "Category"
 caption: DataDialog="Disassemble Dialog - empty.hex"
     TipsLabel="Select the mnemonics && data bytes and click 'Done', or click 'Cancel'."
@@ -234,6 +225,5 @@ TipsLabel caption=" Disassembling Opcodes . . ." enabled=1 visible=1
 closed DataDialog
 session: CurrentRow=7 LastLine=-2 HexPath="top.hex" HexTitle="top.hex"
 HexList count=4 (3 in at 0) 0=":03FFFF00003AC9FC" 1=":02100000C376B5" 2=":01100200ae3F"
-LastAddressList count=0 | OriginList 0="" | StringTable rows=8
-Table1 rows=8 (4 out at 0)
+LastAddressList count=0 | OriginList 0="" | StringTable rows=8 | Table1 rows=8 (4 out at 0)
 caption: TipsLabel=" Disassembling Opcodes . . ."

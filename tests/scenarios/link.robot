@@ -21,8 +21,7 @@ box critical "Check Sum error in short.hex." ok -> ok
 # The user changes his mind at the prompt: the records stay, and the port stays closed.
 > changes ; path good.hex ; click DownloadFile ; settle ; changes
 session: HexPath="short.hex" HexTitle="short.hex" MessageResult="1"
-HexList 0=":018000007F" 1=":00000001FF"
-caption: TipsLabel="Program Mode."
+HexList 0=":018000007F" 1=":00000001FF" | caption: TipsLabel="Program Mode."
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> cancel
 session: HexPath="good.hex" HexTitle="good.hex" MessageResult="2"
@@ -62,23 +61,21 @@ dtr 1
 rts 1
 box critical "Unable to download." ok -> ok
 port close
-session: PortOpen=1 CommPortNumber=2 MSComm1.CommPort=2
-checked: PortOption 1 | unchecked: PortOption 3
-session: PortOpen=0
-caption: TipsLabel="Program Mode."
+session: PortOpen=1 CommPortNumber=2 MSComm1.CommPort=2 | checked: PortOption 1
+unchecked: PortOption 3
+session: PortOpen=0 | caption: TipsLabel="Program Mode."
 == upload
 # An upload that the user does not want, on a port that is broken, and on one that is in use.
 > click PortOption 1 ; port 2 broken ; click UploadFile ; changes ; answer ok ; click UploadFile ; changes ; port 2 busy
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> cancel
-session: MessageResult="2" CommPortNumber=2 MSComm1.CommPort=2
-checked: PortOption 1 | unchecked: PortOption 0
+session: MessageResult="2" CommPortNumber=2 MSComm1.CommPort=2 | checked: PortOption 1
+unchecked: PortOption 0
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
 port open 2 "2400,N,8,1"
 rts 1
 dtr 1
 port close
-session: MessageResult="1"
-caption: TipsLabel="Upload incomplete."
+session: MessageResult="1" | caption: TipsLabel="Upload incomplete."
 > answer ok ; click UploadFile
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
 box critical "Comm2 is not available or already in use. Please assign another port for serial communication." ok -> ok
@@ -94,8 +91,7 @@ TipsLabel caption="Select Row, Enter Comments and Click 'Done', or Click 'Cancel
 > escape
 port close
 > changes
-session: CommPortNumber=1 MSComm1.CommPort=1
-checked: PortOption 0 | unchecked: PortOption 1
+session: CommPortNumber=1 MSComm1.CommPort=1 | checked: PortOption 0 | unchecked: PortOption 1
 # While one upload waits, neither another nor a download gets the port. What comes in pieces is one
 # text. The file is downloaded as it was saved.
 > answer ok ; click UploadFile
@@ -122,8 +118,7 @@ dtr 0
 rts 0
 port close
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "up.hex"
-session: PortOpen=0 HexPath="up.hex"
-caption: TipsLabel="Enter file name and click 'Save'."
+session: PortOpen=0 HexPath="up.hex" | caption: TipsLabel="Enter file name and click 'Save'."
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "up.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
 port open 1 "2400,N,8,1"
@@ -167,8 +162,7 @@ rts 0
 port close
 box critical "Received data is corrupt. Please upload again." ok -> ok
 HexList empty
-HexList count=0
-caption: TipsLabel="Upload failed."
+HexList count=0 | caption: TipsLabel="Upload failed."
 > answer ok ; click UploadFile
 box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
 port open 1 "2400,N,8,1"

@@ -10,15 +10,10 @@ closed PrintInfo
 > row "MVI A,count" "JMP loop" HLT ; cell Table1 31 2 ; row NOP ; click PlaceLabelTool
 > cell Table1 1 0 ; click ExistingPlaceOption ; click PlaceAcceptButton ; click PlaceDoneButton ; changes
 session: Selection=32 CurrentRow=32 LastLine=4 FileChanged=1 SelectionAnchor=31 ClickedRow=1
-    SelectedInstruction=78
-LabelCombo 0="loop" | LabelEqtList 0="XXXX" | LabelLineList 0="1" | LabelPlacedList 0="1"
-LabelUsedList 0="1" | StringTable rows=42 (10 in at 1) 1="count" 2="loop" | XXCombo 0="count"
-XXEqtList 0="XX"
-Table1 rows=42 (10 in at 1)
-Table1 1 "loop" - "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' into Accumulator."
-Table1 2 - - "JMP  loop" "C3   XX   XX" "Jump to address pointed by 'loop'."
-Table1 3 - - "HLT" "76" "Halt program execution." | 31 - - "NOP" "00" "No Operation."
-Table1 colors 11,2=own 32,2=cursor
+    SelectedInstruction=78 | StringTable rows=42 (10 in at 1) 1="count" 2="loop"
+Labels 0 "loop" "XXXX" "1" "1" "1" | Variables 0 "count" "XX" | Table1 rows=42 (10 in at 1)
+Table1 1 "loop" - "MVI  A,   count" "3E   XX" default | 2 - - "JMP  loop" "C3   XX   XX" default
+Table1 3 - - "HLT" "76" default | 31 - - "NOP" "00" default | colors 11,2=own 32,2=cursor
 caption: TipsLabel="Program Mode."
 > click ViewPrintInfo ; changes ; close PrintInfo
 open PrintInfo
@@ -28,26 +23,24 @@ caption: PrintInfo.EquivalentPagesLabel="1" PrintInfo.LabelsLabel="1"
 closed PrintInfo
 # The comment box comes beside the keys. What is ignored stays in the box and off the pages.
 > click PrintComments ; changes ; type PrintCommentText "lost" ; click PrintCommentCancelButton ; show PrintCommentText
-session: PanelState=35
-caption: TipsLabel="" | shown: PrintCommentBox | disabled: EditMenu/* FileMenu/* ToolsMenu/*
-focus: PrintCommentText | default: PrintCommentDoneButton
+session: PanelState=35 | caption: TipsLabel="" | shown: PrintCommentBox
+disabled: EditMenu/* FileMenu/* ToolsMenu/* | focus: PrintCommentText
+default: PrintCommentDoneButton
 PrintCommentText text="lost" enabled=1 visible=0
 # A cancelled print changes nothing but the answer.
 > answer cancel ; click PrintFile ; changes
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> cancel
-session: PanelState=1 MessageResult="2"
-caption: TipsLabel="Program Mode." | hidden: PrintCommentBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
+session: PanelState=1 MessageResult="2" | caption: TipsLabel="Program Mode."
+hidden: PrintCommentBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 # A run, stage by stage: nothing can be done meanwhile, and the rows have their addresses.
 > answer ok ; click PrintFile ; changes ; click INST 0 ; close ProgrammingPanel ; escape ; tick 10 ; changes
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
-session: MessageResult="1"
-caption: TipsLabel="Assigning addresses . . ." | disabled: ProgrammingPanel
+session: MessageResult="1" | caption: TipsLabel="Assigning addresses . . ."
+disabled: ProgrammingPanel
 refused INST disabled
 refused ProgrammingPanel disabled
 refused TableCancelButton disabled
-LabelEqtList 0="8000"
-Table1 1 - "8000" | 2 - "8002" | 3 - "8005" | 31 - "8006"
+Labels 0 - "8000" | Table1 1 - "8000" | 2 - "8002" | 3 - "8005" | 31 - "8006"
 caption: TipsLabel="Composing print information."
 > tick 2029
 > tick 1 ; tick 2029
@@ -66,8 +59,7 @@ enabled: ProgrammingPanel
 > cell Table1 32 2 ; row RET ; click ViewPrintInfo ; changes ; close PrintInfo
 open PrintInfo
 session: Selection=33 CurrentRow=33 SelectionAnchor=32 SelectedInstruction=58 CurrentOpcode=201
-StringTable rows=43
-Table1 rows=43 (1 in at 32) | 32 - - "RET" "C9" "Return."
+StringTable rows=43 | Table1 rows=43 (1 in at 32) | 32 - - "RET" "C9" default
 caption: TipsLabel="Program Mode." PrintInfo.ProgramLineLabel="32" PrintInfo.ProgramPagesLabel="2"
     PrintInfo.TotalPagesLabel="3"
 closed PrintInfo
@@ -78,8 +70,8 @@ box information "Check the default settings of the printer and click 'OK' to pri
 page PrintPanel "Pgm1.baf" "lost && found" 2 3
 line 0 "" "8007" "RET" "C9" "Return." shade=-
 > click PageOption 1 ; changes ; answer ok ; click PrintFile ; settle ; click PageOption 0 ; changes
-Table1 32 - "8007"
-caption: TipsLabel="Composing print information." | checked: PageOption 1 | unchecked: PageOption 2
+Table1 32 - "8007" | caption: TipsLabel="Composing print information." | checked: PageOption 1
+unchecked: PageOption 2
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
 page PrintPanel "Pgm1.baf" "lost && found" 1 3
 line 0 "Origin" "8000" "" "" "" shade=0,1,2,3,4
@@ -116,10 +108,8 @@ box question "Save changes to Pgm1.baf?" yesnocancel -> no
 PrintCommentText text="" enabled=1 visible=1
 open PrintInfo
 session: Selection=2 CurrentRow=2 LastLine=1 SelectionAnchor=0 SelectedInstruction=78
-    CurrentOpcode=0 MessageResult="7"
-LabelCombo count=0 | LabelEqtList count=0 | LabelLineList count=0 | LabelPlacedList count=0
-LabelUsedList count=0 | StringTable rows=32 (11 out at 1) | XXCombo count=0 | XXEqtList count=0
-Table1 rows=32 (11 out at 23) | 1 "" "" "NOP" "00" "No Operation." | 2..3 - "" "" "" ""
+    CurrentOpcode=0 MessageResult="7" | StringTable rows=32 (11 out at 1) | Labels count=0
+Variables count=0 | Table1 rows=32 (11 out at 23) | 1 "" "" "NOP" "00" | 2..3 - "" "" "" ""
 Table1 colors 2,2=cursor
 caption: PrintInfo.EquivalentPagesLabel="0" PrintInfo.LabelsLabel="0" PrintInfo.ProgramLineLabel="1"
     PrintInfo.ProgramPagesLabel="1" PrintInfo.StringsLabel="0" PrintInfo.TotalPagesLabel="1"
@@ -194,14 +184,11 @@ box information "Check the default settings of the printer and click 'OK' to pri
 page PrintLabelPanel "Pgm1.baf" "" 2 2
 line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
 session: Cursor=5 LastLine=4 SelectionAnchor=4 SelectedInstruction=6 CurrentOpcode=50
-    ProjectPath="sum.baf" MessageResult="1"
-LabelCombo 0="a" 1="b" 2="c" | LabelEqtList 0..2="XXXX" | LabelLineList 0..2="0"
-LabelPlacedList 0..2="0" | LabelUsedList 0..2="1" | StringTable 1="a" 2="b" 3="v0" 4="c"
-XXCombo 0="v0" | XXEqtList 0="XX"
-Table1 1 - "8000" "JMP  a" "C3   XX   XX" "Jump to address pointed by 'a'."
-Table1 2 - "8003" "CALL  b" "CD   XX   XX" "Call sub-routine pointed by 'b'."
-Table1 3 - "8006" "ADI   v0" "C6   XX" "Add the equivalent of 'v0' to content of Accumulator."
-Table1 4 - "8008" "STA  c" "32   XX   XX" "Store content of Accumulator in address pointed by 'c'."
+    ProjectPath="sum.baf" MessageResult="1" | StringTable 1="a" 2="b" 3="v0" 4="c"
+Labels 0 "a" "XXXX" "0" "0" "1" | 1 "b" "XXXX" "0" "0" "1" | 2 "c" "XXXX" "0" "0" "1"
+Variables 0 "v0" "XX" | Table1 1 - "8000" "JMP  a" "C3   XX   XX"
+Table1 2 - "8003" "CALL  b" "CD   XX   XX" default | 3 - "8006" "ADI   v0" "C6   XX" default
+Table1 4 - "8008" "STA  c" "32   XX   XX" default
 caption: TipsLabel="Composing print information." | checked: PageOption 2 | unchecked: PageOption 0
 # An overflow in a later block goes unseen; in the first it stops the print, and the panel with it.
 > click NewOrigin ; key NumberAcceptButton FFFF ; click NumberAcceptButton ; row NOP NOP ; click PageOption 0
@@ -223,14 +210,10 @@ line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
 box critical "Compile error. Invalid address in origin FFF9h." ok -> ok
 session: Selection=4 CurrentRow=4 LastLine=8 AddressError=-1 SelectionAnchor=1 ClickedRow=0
-    SelectedInstruction=78 CurrentOpcode=0
-OriginList 0="FFF9" | StringTable rows=33
-Table1 rows=33 (1 in at 0) | 0 "Origin" "FFF9"
-Table1 1 "" "FFF9" "JMP  a" "C3   XX   XX" "Jump to address pointed by 'a'."
-Table1 2 - "FFFC" "CALL  b" "CD   XX   XX" "Call sub-routine pointed by 'b'."
-Table1 3 - "FFFF" "ADI   v0" "C6   XX" "Add the equivalent of 'v0' to content of Accumulator."
-Table1 4 - "8008" "STA  c" "32   XX   XX" "Store content of Accumulator in address pointed by 'c'."
-Table1 5 "Origin" "FFFF" "" "" "" | 6..7 - - "NOP" "00" "No Operation."
+    SelectedInstruction=78 CurrentOpcode=0 | OriginList 0="FFF9" | StringTable rows=33
+Table1 rows=33 (1 in at 0) | 0 "Origin" "FFF9" | 1 "" "FFF9" "JMP  a" "C3   XX   XX" default
+Table1 2 - "FFFC" "CALL  b" "CD   XX   XX" | 3 - "FFFF" "ADI   v0" "C6   XX"
+Table1 4 - "8008" "STA  c" "32   XX   XX" | 5 "Origin" "FFFF" "" "" "" | 6..7 - - "NOP" "00" default
 Table1 colors 0,0..4=E0E0E0 1,0..4=own 4,2=cursor 5,0..4=E0E0E0 6,2=own
 caption: TipsLabel="Print aborted." | disabled: ProgrammingPanel | checked: PageOption 0
 unchecked: PageOption 2

@@ -10,13 +10,10 @@ caption: TipsLabel="Program Mode."
 > clear CommentsTxt ; type CommentsTxt "Größe, конец, 終" ; click CommentDoneButton
 > click AssignAddress ; settle ; changes
 session: Cursor=4 LastLine=3 FileChanged=1 ClickedRow=3 SelectedInstruction=79 CurrentOpcode=118
-    SavedComment="Halt program execution."
-LabelCombo 0="loop" | LabelEqtList 0="8005" | LabelLineList 0="3" | LabelPlacedList 0="1"
-LabelUsedList 0="1" | LastAddressList 0="8005" | StringTable 1="count" 2="loop" | XXCombo 0="count"
-XXEqtList 0="XX"
-Table1 1 - "8000" "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' into Accumulator."
-Table1 2 - "8002" "JMP  loop" "C3   05   80" "Jump to address pointed by 'loop'."
-Table1 3 "loop" "8005" "HLT" "76"
+    SavedComment="Halt program execution." | LastAddressList 0="8005"
+StringTable 1="count" 2="loop" | Labels 0 "loop" "8005" "3" "1" "1" | Variables 0 "count" "XX"
+Table1 1 - "8000" "MVI  A,   count" "3E   XX" default
+Table1 2 - "8002" "JMP  loop" "C3   05   80" default | 3 "loop" "8005" "HLT" "76"
     "Gr\xC3\xB6\xC3\x9Fe, \xD0\xBA\xD0\xBE\xD0\xBD\xD0\xB5\xD1\x86, \xE7\xB5\x82"
 > path program.txt ; click SaveFile ; changes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.txt"
@@ -25,35 +22,24 @@ Table1 1..3 - ""
 caption: ProgrammingPanel="Brelvanor Quilla - program.txt" TipsLabel="File Saved."
 > row NOP ; click SaveFile ; changes
 session: Cursor=5 LastLine=4 SelectedInstruction=78 CurrentOpcode=0
-Table1 4 - - "NOP" "00" "No Operation."
+Table1 4 - - "NOP" "00" default
 # The same file opened has the same rows and strings; what the lists say of labels comes later.
 > path program.baf ; click OpenFile ; changes
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.baf"
-session: Cursor=1 LastLine=1 FileOrigin=2 FileName="program.baf"
-LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0 | LastAddressList count=0
+session: Cursor=1 LastLine=1 FileOrigin=2 FileName="program.baf" | LabelLineList count=0
+LabelPlacedList count=0 | LabelUsedList count=0 | LastAddressList count=0
 caption: ProgrammingPanel="Brelvanor Quilla - program.baf" TipsLabel="File Opened."
 > click FindLabel ; escape ; changes
-session: LastLine=3
-LabelLineList 0="3" | LabelPlacedList 0="1" | LabelUsedList 0="1"
+session: LastLine=3 | LabelLineList 0="3" | LabelPlacedList 0="1" | LabelUsedList 0="1"
 caption: TipsLabel="Program Mode."
-# A name without an extension loses its end.
-> path myproject ; click SaveAsFile ; path mypro.baf ; click OpenFile ; changes
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "myproject"
-dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "mypro.baf"
-session: LastLine=1 FileName="mypro.baf" ProjectPath="mypro.baf"
-LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0
-caption: ProgrammingPanel="Brelvanor Quilla - mypro.baf" TipsLabel="File Opened."
 # A path too short, a folder that is not there, a folder in place of a file: all cannot be saved.
 > row RIM ; path abc ; click SaveAsFile ; changes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "abc"
 box critical "Unable to save file." ok -> ok
-session: Cursor=2 LastLine=2 FileChanged=1 SelectedInstruction=74 CurrentOpcode=32
+session: Cursor=2 FileChanged=1 SelectedInstruction=74 CurrentOpcode=32
     SavedCells(2)="MVI  A,   count" SavedCells(3)="3E   XX"
     SavedCells(4)="Move the equivalent of 'count' into Accumulator." SavedCells(5)="count"
-    FileName="abc" ProjectPath="abc" MessageResult="1"
-StringTable 1=""
-Table1 1 - - "RIM" "20" "Reset interrupt mask."
-caption: TipsLabel="Program Mode."
+    FileName="abc" ProjectPath="abc" MessageResult="1" | StringTable 1="" | Table1 1 - - "RIM" "20"
 > path absent/new.baf ; click SaveAsFile ; click SaveFile ; path folder.txt ; click SaveAsFile
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "absent/new.baf"
 box critical "Unable to save file." ok -> ok
@@ -83,8 +69,7 @@ session: FileOrigin=2 SelectedInstruction=78 FileName="missing.baf" ProjectPath=
 caption: ProgrammingPanel="Brelvanor Quilla - missing.baf" TipsLabel="Program Mode."
 > row SIM ; click SaveFile ; path missing.baf ; click OpenFile ; changes
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "missing.baf"
-session: SelectedInstruction=75 CurrentOpcode=48
-Table1 1 - - "SIM" "30" "Set interrupt mask."
+session: SelectedInstruction=75 CurrentOpcode=48 | Table1 1 - - "SIM" "30" default
 caption: TipsLabel="File Opened."
 > path folder.baf ; click OpenFile ; path wrong-tag.baf ; click OpenFile ; path huge.baf
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "folder.baf"
@@ -96,31 +81,28 @@ dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "huge.baf"
 box critical "Unable to open file." ok -> ok
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "cut.baf"
 box critical "Unable to open file." ok -> ok
-session: FileName="cut.baf" ProjectPath="cut.baf"
-Table1 1 - - "" "" ""
+session: FileName="cut.baf" ProjectPath="cut.baf" | Table1 1 - - "" "" ""
 caption: ProgrammingPanel="Brelvanor Quilla - cut.baf" TipsLabel="Program Mode."
 # Items need no quotes, and their ends are those of lines or commas; the marks are not compared.
 > path unquoted.baf ; click OpenFile ; changes
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "unquoted.baf"
-session: FileName="unquoted.baf" ProjectPath="unquoted.baf"
-LabelCombo 0="again" | LabelEqtList 0="7000" | OriginList 0="7000" | StringTable 1="again"
-Table1 0 - "7000" | 1 "again" - "JMP  again" "C3   00   70" "Jump, back"
+session: FileName="unquoted.baf" ProjectPath="unquoted.baf" | LabelCombo 0="again"
+LabelEqtList 0="7000" | OriginList 0="7000" | StringTable 1="again" | Table1 0 - "7000"
+Table1 1 "again" - "JMP  again" "C3   00   70" "Jump, back"
 caption: ProgrammingPanel="Brelvanor Quilla - unquoted.baf" TipsLabel="File Opened."
-# Bytes of another encoding come and go as they are.
-> path latin.baf ; click OpenFile ; changes
+# Bytes of another encoding come and go as they are; a name without an extension loses its end.
+> path latin.baf ; click OpenFile ; path another ; click SaveAsFile ; path ano.baf ; click OpenFile
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "latin.baf"
-session: FileName="latin.baf" ProjectPath="latin.baf"
-LabelCombo count=0 | LabelEqtList count=0 | OriginList 0="8000" | StringTable 1=""
-Table1 0 - "8000" | 1 "" - "HLT" "76" "f\xFCr alle, \xE2\x82\xAC und \x80"
-caption: ProgrammingPanel="Brelvanor Quilla - latin.baf"
-> path again.baf ; click SaveAsFile ; path again.baf ; click OpenFile ; changes
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "again.baf"
-dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "again.baf"
-session: FileName="again.baf" ProjectPath="again.baf"
-caption: ProgrammingPanel="Brelvanor Quilla - again.baf"
+dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "another"
+dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "ano.baf"
+> changes
+session: FileName="ano.baf" ProjectPath="ano.baf" | LabelCombo count=0 | LabelEqtList count=0
+OriginList 0="8000" | StringTable 1="" | Table1 0 - "8000"
+Table1 1 "" - "HLT" "76" "f\xFCr alle, \xE2\x82\xAC und \x80"
+caption: ProgrammingPanel="Brelvanor Quilla - ano.baf"
 # Opening ends data mode and Insert; a save in data mode ends in data mode, done or not.
-> click EntryMode ; click WriteMode ; path again.baf ; click OpenFile ; changes
-dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "again.baf"
+> click EntryMode ; click WriteMode ; path ano.baf ; click OpenFile ; changes
+dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "ano.baf"
 > click EntryMode ; click SaveFile ; path absent/new.baf ; click SaveAsFile ; click SaveAsFile
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "absent/new.baf"
 box critical "Unable to save file." ok -> ok

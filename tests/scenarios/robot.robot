@@ -29,11 +29,11 @@ refused ExistingXXOption disabled
 refused XXAcceptButton disabled
 refused REG disabled
 refused XXAcceptButton hidden
-> click ExistingXXOption ; pick XXCombo 1 ; pick XXCombo -1 ; pick XXCombo 0
+> click ExistingXXOption ; pick XXCombo 1 ; pick XXCombo -1 ; pick XXCombo 0 ; show XXCombo
 refused XXCombo outside
 refused XXCombo outside
-> show XXCombo ; show ExistingXXOption ; show EntryMode ; show Table1 ; show HexList
 XXCombo text="x" index=0 count=1 enabled=1 visible=1
+> show ExistingXXOption ; show EntryMode ; show Table1 ; show HexList
 ExistingXXOption checked=1 enabled=1 visible=1
 EntryMode caption="Data &Mode" enabled=0 visible=1
 Table1 enabled=1 visible=1
@@ -81,53 +81,35 @@ ended
 == rows and changes
 # Nothing differs at the start, nor right after the differences are told. Whole rows by their keys.
 > changes
-> row "MOV  A , M" "MVI M,x" "LXI SP,p" "LXI B , p" "RST 7" "PUSH PSW" "STAX D" "IN x" RNC ; changes
+> row "MOV  A , M" "MVI M,x" "LXI SP,p" "LXI B , p" "RST 7" "PUSH PSW" "STAX D" "IN x" RNC
+> changes
 session: Cursor=10 LastLine=9 FileChanged=1 SelectedInstruction=64 CurrentOpcode=208
-LabelCombo 0="p" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
-LabelUsedList 0="1" | StringTable 2="x" 3..4="p" 8="x" | XXCombo 0="x" | XXEqtList 0="XX"
-Table1 1 - - "MOV  A,  M" "7E"
-    "Move content of address pointed by HL-register pair into Accumulator."
-Table1 2 - - "MVI  M,   x" "36   XX"
-    "Move the equivalent of 'x' into address pointed by HL-register pair."
-Table1 3 - - "LXI  SP,  p" "31   XX   XX" "Load the equivalent of 'p' into stack pointer."
-Table1 4 - - "LXI  B,  p" "01   XX   XX" "Load the equivalent of 'p' into BC-register pair."
-Table1 5 - - "RST 7" "FF" "Restart#7 (Call sub-routine at address 0038H)."
-Table1 6 - - "PUSH  PSW" "F5" "Store content of Accumulator and flag register in top of stack."
-Table1 7 - - "STAX  D" "12" "Store content of Accumulator in address pointed by DE-register pair."
-Table1 8 - - "IN   x" "DB   XX"
-    "Receive content from port address pointed by 'x' and store in Accumulator."
-Table1 9 - - "RNC" "D0" "Return on no carry."
+StringTable 2="x" 3..4="p" 8="x" | Labels 0 "p" "XXXX" "0" "0" "1" | Variables 0 "x" "XX"
+Table1 1 - - "MOV  A,  M" "7E" default | 2 - - "MVI  M,   x" "36   XX" default
+Table1 3 - - "LXI  SP,  p" "31   XX   XX" default | 4 - - "LXI  B,  p" "01   XX   XX" default
+Table1 5 - - "RST 7" "FF" default | 6 - - "PUSH  PSW" "F5" default | 7 - - "STAX  D" "12" default
+Table1 8 - - "IN   x" "DB   XX" default | 9 - - "RNC" "D0" default
 caption: TipsLabel="Program Mode."
 > changes
 # A refusal is that of the press, and ends the row; what a hidden box holds waits until it is seen.
 > row "ADI Big" NOP ; changes
 refused XXAcceptButton disabled
 session: PanelState=2 EntryPending=1 SelectedInstruction=15 CurrentOpcode=198
-Table1 10 - - "ADI" "C6"
-caption: TipsLabel="Enter 8-bit number and click 'Accept'." | text: XXCombo="x" XXText="Big"
-shown: XXBox | hidden: InstructionBox XXDoneButton XXFindButton XXReplaceButton
+Table1 10 - - "ADI" "C6" | caption: TipsLabel="Enter 8-bit number and click 'Accept'."
+text: XXCombo="x" XXText="Big" | shown: XXBox
+hidden: InstructionBox XXDoneButton XXFindButton XXReplaceButton
 disabled: EditMenu/* FileMenu/* ToolsMenu/* XXAcceptButton XXCombo | checked: NewXXOption
 focus: XXText | default: XXAcceptButton
 > escape ; row "JMP x" NOP ; changes
 box critical "String already used as Label or Variable. Please enter another label." ok -> ok
 refused INST hidden
 session: PanelState=4 SelectedInstruction=37 CurrentOpcode=195 MessageResult="1"
-Table1 10 - - "JMP" "C3"
-caption: TipsLabel="Enter Label and click 'Accept'." | text: LabelCombo="p" | shown: LabelBox
-hidden: XXBox | disabled: LabelAcceptButton LabelCombo | checked: NewLabelOption | focus: LabelText
-default: LabelAcceptButton
+Table1 10 - - "JMP" "C3" | caption: TipsLabel="Enter Label and click 'Accept'."
+text: LabelCombo="p" | shown: LabelBox | hidden: XXBox | disabled: LabelAcceptButton LabelCombo
+checked: NewLabelOption | focus: LabelText | default: LabelAcceptButton
 > escape ; row "JMP p" ; click PlaceLabelTool ; type PlaceText ";" ; changes
-session: Cursor=11 PanelState=16 EntryPending=0
-PlaceCombo 0="p" | StringTable 10="p"
-Table1 10 - - "JMP  p" "C3   XX   XX" "Jump to address pointed by 'p'."
+session: Cursor=11 PanelState=16 EntryPending=0 | PlaceCombo 0="p" | StringTable 10="p"
+Table1 10 - - "JMP  p" "C3   XX   XX" default
 caption: TipsLabel="Select Row, Enter Label and Click 'Place'; or Click 'Cancel'."
 text: PlaceCombo="p" PlaceText=";" | shown: PlaceBox | hidden: LabelBox
 disabled: PlaceAcceptButton PlaceCombo | checked: NewPlaceOption | focus: PlaceText
-# A dialog that waits takes the rest of the line.
-> click PlaceDoneButton ; click EqtOption ; row NOP ; escape ; click RenumberDialog.DoneButton ; changes
-open RenumberDialog
-refused INST modal
-closed RenumberDialog
-session: PanelState=1
-caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: PlaceBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*

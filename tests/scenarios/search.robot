@@ -7,9 +7,7 @@ box information "No labels used in the program." ok -> ok
 box information "No labels used in the program." ok -> ok
 box information "No labels used in the program." ok -> ok
 session: FileChanged=1 SelectionAnchor=1 SelectedInstruction=37 CurrentOpcode=195 MessageResult="1"
-LabelCombo 0="old" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
-LabelUsedList 0="0" | StringTable rows=31
-Table1 rows=31
+StringTable rows=31 | Labels 0 "old" "XXXX" "0" "0" "0" | Table1 rows=31
 caption: TipsLabel="Program Mode."
 # A program where labels are placed, used, both, and neither; the first row is used up by a variable.
 > row "MVI A,count" "CALL sub" "JMP loop" "JNZ loop" RET ; click PlaceLabelTool ; cell Table1 3 0
@@ -20,67 +18,33 @@ box information "The label 'old' is not used in the program." ok -> ok
 > click FindButton ; changes
 box information "The label 'sub' is used 1 time in the program." ok -> ok
 session: Selection=6 PanelState=22 CurrentRow=6 LastLine=5 ClickedRow=5 SelectedInstruction=58
-    CurrentOpcode=201
-FindCombo 0="old" 1="sub" 2="loop" 3="end" | LabelCombo 1="sub" 2="loop" 3="end"
-LabelEqtList 1..3="XXXX" | LabelLineList 1="0" 2="3" 3="5" | LabelPlacedList 1="0" 2..3="1"
-LabelUsedList 1..2="1" 3="0" | StringTable 1="count" 2="sub" 3..4="loop" | XXCombo 0="count"
-XXEqtList 0="XX"
-Table1 1 - - "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' into Accumulator."
-Table1 2 - - "CALL  sub" "CD   XX   XX" "Call sub-routine pointed by 'sub'."
-Table1 3 "loop" - "JMP  loop" "C3   XX   XX" "Jump to address pointed by 'loop'."
-Table1 4 - - "JNZ  loop" "C2   XX   XX" "Jump on no zero, to address pointed by 'loop'."
-Table1 5 "end" - "RET" "C9" "Return."
-Table1 colors 1,2=own 2,2=FF0000/FFFFFF 6,2=cursor
+    CurrentOpcode=201 | FindCombo 0="old" 1="sub" 2="loop" 3="end"
+StringTable 1="count" 2="sub" 3..4="loop" | Labels 1 "sub" "XXXX" "0" "0" "1"
+Labels 2 "loop" "XXXX" "3" "1" "1" | 3 "end" "XXXX" "5" "1" "0" | Variables 0 "count" "XX"
+Table1 1 - - "MVI  A,   count" "3E   XX" default | 2 - - "CALL  sub" "CD   XX   XX" default
+Table1 3 "loop" - "JMP  loop" "C3   XX   XX" default | 4 - - "JNZ  loop" "C2   XX   XX" default
+Table1 5 "end" - "RET" "C9" default | colors 1,2=own 2,2=FF0000/FFFFFF 6,2=cursor
 caption: TipsLabel="Completed searching for label." | text: FindCombo="sub" | shown: FindBox
 hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/* | focus: FindCombo
 default: FindButton
-> pick FindCombo 2 ; click FindButton ; changes
-box information "The label 'loop' is used 3 times in the program." ok -> ok
-Table1 colors 2,2=own 3,0=FF0000/FFFFFF 3,2=FF0000/FFFFFF 4,2=FF0000/FFFFFF
-text: FindCombo="loop"
-# Done takes the marks off the cells that were painted, Esc too.
-> pick FindCombo 3 ; enter ; click FindDoneButton ; changes
+> pick FindCombo 3 ; click FindButton ; pick FindCombo 2 ; click FindButton ; changes
 box information "The label 'end' is used 1 time in the program." ok -> ok
-session: PanelState=1
-Table1 colors 3,0=own 3,2=own 4,2=own
-caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: FindBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
-> click FindLabel ; pick FindCombo 2 ; enter ; cell Table1 3 2 ; escape ; changes
 box information "The label 'loop' is used 3 times in the program." ok -> ok
-session: SelectionAnchor=3
-# The name of a variable that a label shares: its rows count. Esc leaves the rows of variables marked.
-> click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText count ; enter ; click ReplaceDoneButton
-> click FindLabel ; pick FindCombo 4 ; enter ; escape ; changes
+Table1 colors 2,2=own 3,0=FF0000/FFFFFF 3,2=FF0000/FFFFFF 4,2=FF0000/FFFFFF | text: FindCombo="loop"
+# Done takes the marks off; the rows of variables count too where they share the name.
+> click FindDoneButton ; click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText count ; enter
+> click ReplaceDoneButton ; click FindLabel ; pick FindCombo 4 ; enter ; escape ; changes
 box information "The label 'count' is used 2 times in the program." ok -> ok
-session: SelectionAnchor=2
-LabelCombo 4="count" | LabelEqtList 4="XXXX" | LabelLineList 4="0" | LabelPlacedList 4="0"
-LabelUsedList 1="0" 4="1" | StringTable 2="count"
-Table1 2 - - "CALL  count" - "Call sub-routine pointed by 'count'."
-Table1 colors 1,2=FF0000/FFFFFF
-> click FindVariable ; enter ; click XXDoneButton ; changes
-box information "The variable 'count' is used 2 times in the program." ok -> ok
-Table1 colors 1,2=own
-# In data mode the tool ends in data mode, also where there is nothing to find.
-> click EntryMode ; click FindLabel ; click FindDoneButton ; changes
-session: PanelState=29
-caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
-focus: DataAcceptButton | default: DataAcceptButton
-> answer no ; click NewFile ; click EntryMode ; click FindLabel ; changes
-box question "Save changes to Pgm1.baf?" yesnocancel -> no
-box information "No labels used in the program." ok -> ok
-session: Selection=1 CurrentRow=1 LastLine=1 FileChanged=0 SelectionAnchor=0
-LabelCombo count=0 | LabelEqtList count=0 | LabelLineList count=0 | LabelPlacedList count=0
-LabelUsedList count=0 | StringTable rows=32 (1 in at 1) 2..5="" | XXCombo count=0
-XXEqtList count=0
-Table1 rows=32 (1 in at 1) | 2..3 - - "" "" "" | 4 "" - "" "" "" | 5 - - "" "" "" | 6 "" - "" "" ""
-Table1 colors 1,2=cursor 7,2=own
+session: PanelState=1 SelectionAnchor=2 | StringTable 2="count" | Labels 1 - - - - "0"
+Labels 4 "count" "XXXX" "0" "0" "1" | Table1 2 - - "CALL  count"
+Table1 colors 1,2=FF0000/FFFFFF 3,0=own 3,2=own 4,2=own | caption: TipsLabel="Program Mode."
+shown: InstructionBox | hidden: FindBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 == variables
 # Without variables both commands tell so and come back.
 > click FindVariable ; click ReplaceVariable ; changes
 box information "No variables used in program." ok -> ok
 box information "No variables used in program." ok -> ok
-session: MessageResult="1"
-caption: TipsLabel="Program Mode."
+session: MessageResult="1" | caption: TipsLabel="Program Mode."
 # Variables, one of them not in use, and a label. In the find box only the list is live.
 > row "MVI A,count" "ADI count" "OUT port" "JMP loop" "ANI mask" ; cell Table1 5 2
 > click DeleteEdit ; click EqtOption ; click RenumberDialog.VariablesOption
@@ -91,14 +55,10 @@ closed RenumberDialog
 box information "The variable 'count' is used 2 times in the program." ok -> ok
 session: Selection=5 PanelState=32 CurrentRow=5 LastLine=5 FileChanged=1 SelectionAnchor=5
     SelectedInstruction=27 CurrentOpcode=230
-LabelCombo 0="loop" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
-LabelUsedList 0="1" | StringTable rows=31 (1 out at 1) 1..2="count" 3="port" 4="loop"
-XXCombo 0="count" 1="port" 2="mask" | XXEqtList 0="05" 1..2="XX"
-Table1 rows=31 (1 out at 1)
-Table1 1 - - "MVI  A,   count" "3E   05" "Move the equivalent of 'count' into Accumulator."
-Table1 2 - - "ADI   count" "C6   05" "Add the equivalent of 'count' to content of Accumulator."
-Table1 3 - - "OUT   port" "D3   XX" "Send content of Accumulator to port address pointed by 'port'."
-Table1 4 - - "JMP  loop" "C3   XX   XX" "Jump to address pointed by 'loop'."
+StringTable rows=31 (1 out at 1) 1..2="count" 3="port" 4="loop" | Labels 0 "loop" "XXXX" "0" "0" "1"
+Variables 0 "count" "05" | 1 "port" "XX" | 2 "mask" "XX" | Table1 rows=31 (1 out at 1)
+Table1 1 - - "MVI  A,   count" "3E   05" default | 2 - - "ADI   count" "C6   05" default
+Table1 3 - - "OUT   port" "D3   XX" default | 4 - - "JMP  loop" "C3   XX   XX" default
 Table1 colors 1..2,2=FF0000/FFFFFF 5,2=cursor
 caption: TipsLabel="Completed searching for 'count'." | text: XXCombo="count" XXText="mask"
 shown: XXBox | hidden: InstructionBox XXAcceptButton XXReplaceButton
@@ -107,85 +67,56 @@ checked: NewXXOption | focus: XXText | default: XXFindButton
 > pick XXCombo 1 ; click XXFindButton ; pick XXCombo 2 ; click XXFindButton ; changes
 box information "The variable 'port' is used 1 time in the program." ok -> ok
 box information "The variable 'mask' is not used in the program." ok -> ok
-Table1 colors 1..2,2=own
-caption: TipsLabel="Completed searching for 'mask'." | text: XXCombo="mask"
+Table1 colors 1..2,2=own | caption: TipsLabel="Completed searching for 'mask'."
+text: XXCombo="mask"
 # Done takes the marks off; so does Esc.
 > pick XXCombo 1 ; enter ; click XXDoneButton ; changes
 box information "The variable 'port' is used 1 time in the program." ok -> ok
-session: PanelState=1
-caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: XXBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
+session: PanelState=1 | caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: XXBox
+enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 > click FindVariable ; enter ; escape ; changes
 box information "The variable 'count' is used 2 times in the program." ok -> ok
-# The replace box: candidates are the operands of two-byte rows. A good name alone enables Replace.
-> click ReplaceVariable ; type XXText 9x ; changes
-session: PanelState=33
-Table1 colors 1..3,2=0000FF/FFFFFF
-caption: TipsLabel="" | text: XXCombo="count" XXText="9x" | shown: XXBox XXReplaceButton
+# The replace box: candidates are the operands of two-byte rows. Clicks select; the operand of a label can be selected first, a label not.
+> click ReplaceVariable ; type XXText 9x ; clear XXText ; type XXText total ; changes
+session: PanelState=33 | Table1 colors 1..3,2=0000FF/FFFFFF | caption: TipsLabel=""
+text: XXCombo="count" XXText="total" | shown: XXBox XXReplaceButton
 hidden: InstructionBox XXFindButton | enabled: ExistingXXOption NewXXOption XXText
-disabled: EditMenu/* FileMenu/* ToolsMenu/* XXCombo XXReplaceButton | default: XXReplaceButton
-> clear XXText ; type XXText total ; changes
-text: XXText="total" | enabled: XXReplaceButton
-# Clicks select; the operand of a label can be selected first, a label not.
+disabled: EditMenu/* FileMenu/* ToolsMenu/* XXCombo | default: XXReplaceButton
 > cell Table1 4 2 ; changes
-session: PanelState=34 SelectionAnchor=4
-Table1 colors 4,2=00FF00/000000
+session: PanelState=34 SelectionAnchor=4 | Table1 colors 4,2=00FF00/000000
 > cell Table1 4 2 ; cell Table1 1 2 ; cell Table1 1 0 ; cell Table1 2 2 ; cell Table1 2 2
 > cell Table1 0 0 ; changes
-session: SelectionAnchor=2
-Table1 colors 1,2=00FF00/000000 4,2=0000FF/FFFFFF
+session: SelectionAnchor=2 | Table1 colors 1,2=00FF00/000000 4,2=0000FF/FFFFFF
 # A new name: it is listed without an equivalent.
 > enter ; changes
-session: PanelState=33
-StringTable 1="total" | XXCombo 3="total" | XXEqtList 3="XX"
-Table1 1 - - "MVI  A,   total" "3E   XX" "Move the equivalent of 'total' into Accumulator."
-Table1 colors 1,2=0000FF/FFFFFF
-text: XXText="" | disabled: XXReplaceButton
+session: PanelState=33 | StringTable 1="total" | Variables 3 "total" "XX"
+Table1 1 - - "MVI  A,   total" "3E   XX" | colors 1,2=0000FF/FFFFFF | text: XXText=""
+disabled: XXReplaceButton
 # A name that is a variable already is refused, that of a label is not.
 > cell Table1 3 2 ; type XXText count ; enter ; changes
 box critical "String already present as Label or Variable. Please enter another label." ok -> ok
-session: PanelState=34 SelectionAnchor=3
-Table1 colors 3,2=00FF00/000000
-> type XXText loop ; enter ; changes
-session: PanelState=33
-StringTable 3="loop" | XXCombo 4="loop" | XXEqtList 4="XX"
-Table1 3 - - "OUT   loop" - "Send content of Accumulator to port address pointed by 'loop'."
-Table1 colors 3,2=0000FF/FFFFFF
+session: PanelState=34 SelectionAnchor=3 | Table1 colors 3,2=00FF00/000000
+> type XXText loop ; enter
 # A known name brings its equivalent along.
 > cell Table1 3 2 ; click ExistingXXOption ; enter ; changes
-StringTable 3="count"
-Table1 3 - - "OUT   count" "D3   05"
-    "Send content of Accumulator to port address pointed by 'count'."
+session: PanelState=33 | StringTable 3="count" | Variables 4 "loop" "XX"
+Table1 3 - - "OUT   count" "D3   05" | colors 3,2=0000FF/FFFFFF
 # Back to a new name, Replace waits for it.
-> click ExistingXXOption ; changes
-enabled: XXCombo XXReplaceButton | disabled: XXText | checked: ExistingXXOption
-unchecked: NewXXOption | focus: XXCombo
-> click NewXXOption ; changes
-enabled: XXText | disabled: XXCombo XXReplaceButton | checked: NewXXOption
-unchecked: ExistingXXOption | focus: XXText
+> click ExistingXXOption ; click NewXXOption ; changes
 # A label's operand that is selected becomes a variable's. Nothing selected still lists the name.
 > cell Table1 4 2 ; type XXText low ; enter ; type XXText idle ; enter ; changes
-session: SelectionAnchor=4
-StringTable 4="low" | XXCombo 5="low" 6="idle" | XXEqtList 5..6="XX"
-Table1 4 - - "JMP  low" "C3   XX" "Jump to address pointed by 'low'."
-# Opening it alone changes nothing, replacing does.
-> escape ; path vars.baf ; click SaveFile ; click ReplaceVariable ; click XXDoneButton ; changes
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "vars.baf"
-session: PanelState=1 FileOrigin=3 FileChanged=0 FileName="vars.baf" ProjectPath="vars.baf"
-Table1 colors 1..4,2=own
-caption: ProgrammingPanel="Brelvanor Quilla - vars.baf" TipsLabel="Program Mode."
-shown: InstructionBox | hidden: XXBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
-> click ReplaceVariable ; click ExistingXXOption ; enter ; click XXDoneButton ; changes
-session: FileChanged=1
+session: SelectionAnchor=4 | StringTable 4="low" | Variables 5 "low" "XX" | 6 "idle" "XX"
+Table1 4 - - "JMP  low" "C3   XX"
 # With no row in use left there is nothing to replace; the list can be searched still.
 > drag Table1 1 2 4 2 ; click DeleteEdit ; click ReplaceVariable ; click FindVariable ; enter
-box information "No variables used in program." ok -> ok
-box information "The variable 'count' is not used in the program." ok -> ok
+refused DeleteEdit disabled
+refused ReplaceVariable disabled
+refused FindVariable disabled
+refused XXReplaceButton disabled
 > click XXDoneButton ; changes
-session: Selection=1 CurrentRow=1 LastLine=1 SelectionAnchor=1
-LabelUsedList 0="0" | StringTable rows=27 (4 out at 1)
-Table1 rows=27 (4 out at 1)
+session: PanelState=1 SelectionAnchor=1 | Table1 colors 1..4,2=own
+caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: XXBox
+enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 == replacing labels
 # A program with a variable, two placed labels, their uses, and two blocks. The candidates are red;
 # nothing is selected, and a good name alone does not enable Replace.
@@ -193,22 +124,19 @@ Table1 rows=27 (4 out at 1)
 > key NumberAcceptButton 9000 ; enter ; row "JMP sub" ; click PlaceLabelTool ; cell Table1 3 0
 > click ExistingPlaceOption ; pick PlaceCombo 1 ; enter ; cell Table1 7 0
 > click ExistingPlaceOption ; enter ; cell Table1 5 0 ; type PlaceText end ; enter
-> click PlaceDoneButton ; click AssignAddress ; settle ; click ReplaceLabel
-> type ReplaceText new ; changes
+> click PlaceDoneButton ; click AssignAddress ; settle ; click ReplaceLabel ; type ReplaceText new
+> changes
 session: PanelState=23 LastLine=9 FileChanged=1 ClickedRow=5 SelectedInstruction=37
-    CurrentOpcode=195
-LabelCombo 0="sub" 1="loop" 2="end" | LabelEqtList 0="9000" 1="8005" 2="800B"
-LabelLineList 0="7" 1="3" 2="5" | LabelPlacedList 0..2="1" | LabelUsedList 0..1="1" 2="0"
-LastAddressList 0="800B" 1="9002" | OriginList 1="9000" | ReplaceCombo 0="sub" 1="loop" 2="end"
-StringTable rows=33 (1 in at 1) 1="count" 2="sub" 3..4="loop" 7="sub" | XXCombo 0="count"
-XXEqtList 0="XX"
-Table1 rows=33 (1 in at 1)
-Table1 1 - "8000" "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' into Accumulator."
-Table1 2 - "8002" "CALL  sub" "CD   00   90" "Call sub-routine pointed by 'sub'."
-Table1 3 "loop" "8005" "JMP  loop" "C3   05   80" "Jump to address pointed by 'loop'."
-Table1 4 - "8008" "JNZ  loop" "C2   05   80" "Jump on no zero, to address pointed by 'loop'."
-Table1 5 "end" "800B" "RET" "C9" "Return." | 6 "Origin" "9000"
-Table1 7 "sub" "9000" "JMP  sub" "C3   00   90" "Jump to address pointed by 'sub'."
+    CurrentOpcode=195 | LastAddressList 0="800B" 1="9002" | OriginList 1="9000"
+ReplaceCombo 0="sub" 1="loop" 2="end"
+StringTable rows=33 (1 in at 1) 1="count" 2="sub" 3..4="loop" 7="sub"
+Labels 0 "sub" "9000" "7" "1" "1" | 1 "loop" "8005" "3" "1" "1" | 2 "end" "800B" "5" "1" "0"
+Variables 0 "count" "XX" | Table1 rows=33 (1 in at 1)
+Table1 1 - "8000" "MVI  A,   count" "3E   XX" default
+Table1 2 - "8002" "CALL  sub" "CD   00   90" default
+Table1 3 "loop" "8005" "JMP  loop" "C3   05   80" default
+Table1 4 - "8008" "JNZ  loop" "C2   05   80" default | 5 "end" "800B" "RET" "C9" default
+Table1 6 "Origin" "9000" | 7 "sub" "9000" "JMP  sub" "C3   00   90" default
 Table1 colors 1,2=cursor 2,2=0000FF/FFFFFF 3,0=0000FF/FFFFFF 3,2=0000FF/FFFFFF 4,2=0000FF/FFFFFF
     5,0=0000FF/FFFFFF 6,0..4=E0E0E0 7,0=0000FF/FFFFFF 7,2=0000FF/FFFFFF
 caption: TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
@@ -216,42 +144,29 @@ text: ReplaceCombo="sub" ReplaceText="new" | shown: ReplaceBox | hidden: Instruc
 disabled: EditMenu/* FileMenu/* ReplaceCombo ToolsMenu/* | checked: NewReplaceOption
 # An origin is no cell to select in either state; any other click goes on to the next state.
 > clear ReplaceText ; cell Table1 0 0 ; cell Table1 6 2 ; changes
-session: SelectionAnchor=6
-text: ReplaceText=""
+session: SelectionAnchor=6 | text: ReplaceText=""
 > cell Table1 1 4 ; cell Table1 6 0 ; changes
 session: PanelState=24
 # Cells toggle. Of the labels only the one that is selected last stays so, the operands all do.
 > cell Table1 2 2 ; cell Table1 3 2 ; cell Table1 3 0 ; cell Table1 7 2 ; cell Table1 2 2
 > cell Table1 5 0 ; cell Table1 1 2 ; cell Table1 7 1 ; changes
-session: SelectionAnchor=1
-Table1 colors 3,2=00FF00/000000 5,0=00FF00/000000 7,2=00FF00/000000
+session: SelectionAnchor=1 | Table1 colors 3,2=00FF00/000000 5,0=00FF00/000000 7,2=00FF00/000000
 # A new name: the spelling decides. The first selected label takes it, and all selected operands.
 > type ReplaceText 1st ; clear ReplaceText ; type ReplaceText Big ; changes
 text: ReplaceText="Big"
 > clear ReplaceText ; type ReplaceText newlabel ; changes
 text: ReplaceText="newlab" | enabled: ReplaceAcceptButton | default: ReplaceAcceptButton
 > enter ; changes
-session: PanelState=23
-LabelCombo 3="newlab" | LabelEqtList 3="XXXX" | LabelLineList count=4 (1 in at 2) 2="0"
-LabelPlacedList count=4 (1 in at 2) 2="0" | LabelUsedList 3="1" | ReplaceCombo 3="newlab"
-StringTable 3="newlab" 7="newlab"
-Table1 3 - - "JMP  newlab" "C3   XX   XX" "Jump to address pointed by 'newlab'." | 5 "newlab"
-Table1 7 - - "JMP  newlab" "C3   XX   XX" "Jump to address pointed by 'newlab'."
-Table1 colors 3,2=0000FF/FFFFFF 5,0=0000FF/FFFFFF 7,2=0000FF/FFFFFF
-text: ReplaceText="" | disabled: ReplaceAcceptButton
-# Two selected labels, the second by the click that begins: the first of them alone takes the name.
-> cell Table1 7 0 ; cell Table1 5 0 ; cell Table1 7 0 ; changes
-session: PanelState=24
-Table1 colors 7,0=00FF00/000000
-> cell Table1 5 0 ; escape ; click ReplaceLabel ; changes
-session: PanelState=23
-Table1 colors 7,0=0000FF/FFFFFF
+session: PanelState=23 | ReplaceCombo 3="newlab" | StringTable 3="newlab" 7="newlab"
+Labels count=4 (1 in at 2) | 2 "end" "800B" "0" "0" "0" | 3 "newlab" "XXXX" - - "1"
+Table1 3 - - "JMP  newlab" "C3   XX   XX" | 5 "newlab" | 7 - - "JMP  newlab" "C3   XX   XX"
+Table1 colors 3,2=0000FF/FFFFFF 5,0=0000FF/FFFFFF 7,2=0000FF/FFFFFF | text: ReplaceText=""
+disabled: ReplaceAcceptButton
 # The name in the box of the place tool is the one that is tested.
 > escape ; click PlaceLabelTool ; type PlaceText loop ; escape ; click ReplaceLabel
 > cell Table1 2 2 ; type ReplaceText fresh ; enter ; changes
 box critical "The string 'fresh' already exists. Please enter another string." ok -> ok
-session: PanelState=24 SelectionAnchor=2 MessageResult="1"
-Table1 colors 2,2=00FF00/000000
+session: PanelState=24 SelectionAnchor=2 MessageResult="1" | Table1 colors 2,2=00FF00/000000
 focus: ReplaceText
 > click ReplaceDoneButton ; click PlaceLabelTool ; type PlaceText count ; click PlaceDoneButton
 > click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText fresh ; enter ; escape
@@ -261,60 +176,37 @@ box critical "The string 'fresh' already exists. Please enter another string." o
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "replace.baf"
 > click ExistingReplaceOption ; changes
 session: PanelState=23 FileOrigin=3 FileChanged=0 FileName="replace.baf" ProjectPath="replace.baf"
-Table1 1..5 - "" | 7 - ""
-Table1 colors 2,2=0000FF/FFFFFF
+Table1 1..5 - "" | 7 - "" | colors 2,2=0000FF/FFFFFF
 caption: ProgrammingPanel="Brelvanor Quilla - replace.baf"
 enabled: ReplaceAcceptButton ReplaceCombo | disabled: ReplaceText | checked: ExistingReplaceOption
 unchecked: NewReplaceOption | focus: ReplaceCombo
 > enter ; changes
-session: FileChanged=1
-enabled: ReplaceText | disabled: ReplaceAcceptButton ReplaceCombo | checked: NewReplaceOption
-unchecked: ExistingReplaceOption
+session: FileChanged=1 | enabled: ReplaceText | disabled: ReplaceAcceptButton ReplaceCombo
+checked: NewReplaceOption | unchecked: ExistingReplaceOption
 # An operand takes the known name and keeps its bytes.
 > cell Table1 4 2 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; enter ; changes
-session: SelectionAnchor=4
-LabelUsedList count=5 (1 in at 3) 1="0" 3="1" | StringTable 4="sub"
-Table1 4 - - "JNZ  sub" - "Jump on no zero, to address pointed by 'sub'."
+session: SelectionAnchor=4 | LabelUsedList count=5 (1 in at 3) 1="0" 3="1" | StringTable 4="sub"
+Table1 4 - - "JNZ  sub"
 # A label placed elsewhere is asked for. No: it stays, the operand still gets the name.
 > cell Table1 3 0 ; cell Table1 4 2 ; click ExistingReplaceOption ; pick ReplaceCombo 3 ; answer no
 > enter ; changes
 box question "The label 'newlab' is already placed in line # 5. Do you want to reposition it to line # 3?" yesno -> no
-session: MessageResult="7"
-StringTable 4="newlab"
-Table1 4 - - "JNZ  newlab" - "Jump on no zero, to address pointed by 'newlab'."
+session: MessageResult="7" | StringTable 4="newlab" | Table1 4 - - "JNZ  newlab"
 # Yes: it moves, and its old cell is empty.
 > cell Table1 3 0 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; answer yes ; enter
 box question "The label 'sub' is already placed in line # 7. Do you want to reposition it to line # 3?" yesno -> yes
 > changes
-session: MessageResult="6"
-LabelLineList 0="3" 1="0" | LabelPlacedList 1="0"
-Table1 3 "sub" | 7 ""
-Table1 colors 7,0=own
-# A label put where it stands asks nothing; one that is placed nowhere neither.
-> cell Table1 3 0 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; enter ; changes
-> cell Table1 3 0 ; click ExistingReplaceOption ; pick ReplaceCombo 1 ; enter ; changes
-LabelLineList 0="0" 1="3" | LabelPlacedList 0="0" 1="1"
-Table1 3 "loop"
+session: MessageResult="6" | LabelLineList 0="3" 1="0" | LabelPlacedList 1="0" | Table1 3 "sub"
+Table1 7 "" | colors 7,0=own
 # The operand of a variable can be selected as well, and becomes a label's.
-> cell Table1 1 2 ; type ReplaceText addr ; enter ; click ReplaceDoneButton ; changes
-session: PanelState=1 SelectionAnchor=1
-LabelCombo 4="addr" | LabelEqtList 4="XXXX" | LabelLineList 4="0" | LabelPlacedList 4="0"
-LabelUsedList 5="1" | StringTable 1="addr"
-Table1 1 - - "MVI  A,   addr" "3E   XX   XX" "Move the equivalent of 'addr' into Accumulator."
+> cell Table1 3 0 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; enter ; cell Table1 1 2
+> type ReplaceText addr ; enter ; click ReplaceDoneButton ; changes
+session: PanelState=1 SelectionAnchor=1 | LabelCombo 4="addr" | LabelEqtList 4="XXXX"
+LabelLineList 4="0" | LabelPlacedList 4="0" | LabelUsedList 5="1" | StringTable 1="addr"
+Table1 1 - - "MVI  A,   addr" "3E   XX   XX"
 Table1 colors 1..2,2=own 3,0=own 3,2=own 4,2=own 5,0=own 7,2=own
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: ReplaceBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
-# Selected for a known label, it stays selected; Esc leaves it so, Done does not.
-> row "ADI count" ; click ReplaceLabel ; cell Table1 8 2 ; click ExistingReplaceOption ; enter
-> escape ; changes
-session: Selection=2 CurrentRow=2 SelectionAnchor=8 SelectedInstruction=15 CurrentOpcode=198
-    SavedCells(2)="MVI  A,   addr" SavedCells(3)="3E   XX   XX"
-    SavedCells(4)="Move the equivalent of 'addr' into Accumulator." SavedCells(5)="addr"
-LabelUsedList 4="0" | StringTable 1="count"
-Table1 1 - - "ADI   count" "C6   XX" "Add the equivalent of 'count' to content of Accumulator."
-Table1 colors 2,2=cursor
-> click ReplaceLabel ; click ReplaceDoneButton ; changes
-Table1 colors 2,2=own
+enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 # The option of a new name offers Replace at once: without a text the label's name becomes empty.
 # It counts as placed where the first cell is empty, and stands in more than one row.
 > answer no ; click NewFile ; row "JMP loop" HLT ; click PlaceLabelTool ; cell Table1 2 0
@@ -322,37 +214,25 @@ box question "Save changes to replace.baf?" yesnocancel -> no
 > type PlaceText end ; enter ; click PlaceDoneButton ; click ReplaceLabel ; cell Table1 2 0
 > click NewReplaceOption ; changes
 session: Selection=3 PanelState=24 CurrentRow=3 LastLine=2 FileOrigin=1 SelectionAnchor=0
-    ClickedRow=2 SelectedInstruction=79 CurrentOpcode=118 SavedCells(2)="" SavedCells(3)=""
-    SavedCells(4)="" SavedCells(5)="" FileName="Pgm1.baf" MessageResult="7"
+    ClickedRow=2 SelectedInstruction=79 CurrentOpcode=118 FileName="Pgm1.baf" MessageResult="7"
 LabelCombo count=2 (3 out at 0) 0="loop" 1="end" | LabelEqtList count=2 (3 out at 0)
-LabelLineList count=2 (3 out at 1) 1="2" | LabelPlacedList count=2 | LabelUsedList count=2
-LastAddressList count=0 | OriginList count=1 | ReplaceCombo count=2 (2 out at 0) 0="loop" 1="end"
-StringTable rows=32 (1 out at 1) 1="loop" 2..3="" 6="" | XXCombo count=0 | XXEqtList count=0
-Table1 rows=32 (1 out at 1) | 1 - - "JMP  loop" "C3   XX   XX" "Jump to address pointed by 'loop'."
-Table1 2 "end" - "HLT" "76" "Halt program execution." | 3 - - "" "" "" | 4 "" - "" "" "" | 5 "" ""
-Table1 6 - - "" "" ""
+LabelLineList count=2 (3 out at 0) 0="0" 1="2" | LabelPlacedList count=2 (3 out at 0) 0="0" 1="1"
+LabelUsedList count=2 | LastAddressList count=0 | OriginList count=1
+ReplaceCombo count=2 (2 out at 0) 0="loop" 1="end"
+StringTable rows=32 (1 out at 1) 1="loop" 2..3="" 6="" | Variables count=0
+Table1 rows=32 (1 out at 1) | 1 - - "JMP  loop" "C3   XX   XX" | 2 "end" - "HLT" "76"
+Table1 3 - - "" "" "" | 4 "" - "" "" "" | 5 "" "" | 6 - - "" "" ""
 Table1 colors 1,2=0000FF/FFFFFF 2,0=00FF00/000000 3,2=cursor 5,0..4=own
 caption: ProgrammingPanel="Brelvanor Quilla - Pgm1.baf"
     TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
 text: ReplaceCombo="loop" | shown: ReplaceBox | hidden: InstructionBox
 enabled: ReplaceAcceptButton | disabled: EditMenu/* FileMenu/* ToolsMenu/* | focus: ReplaceText
-> click ReplaceAcceptButton ; changes
-session: PanelState=23
-LabelCombo 2="" | LabelEqtList 2="XXXX" | LabelLineList count=3 (1 in at 1) 1="0" 2="1"
-LabelPlacedList count=3 (1 in at 1) 1="0" | LabelUsedList 2="0" | ReplaceCombo 2=""
-Table1 2 ""
-disabled: ReplaceAcceptButton
-> cell Table1 1 2 ; type ReplaceText x ; clear ReplaceText ; changes
-session: PanelState=24 SelectionAnchor=1
-Table1 colors 1,2=00FF00/000000
+> click ReplaceAcceptButton ; cell Table1 1 2 ; type ReplaceText x ; clear ReplaceText
 > click NewReplaceOption ; click ReplaceAcceptButton ; click ReplaceDoneButton
 box critical "The string '' already exists. Please enter another string." ok -> ok
 > click DeleteUnusedLabels ; click AssignAddress ; settle ; changes
 box information "Unused strings have been deleted." ok -> ok
 box critical "Compile error. There is more than one instance of the label '' in the Label field." ok -> ok
-session: PanelState=1 AddressError=-1 MessageResult="1"
-LabelCombo count=2 (1 out at 1) | LabelEqtList count=2 | LabelLineList count=2 (1 out at 1)
-LabelPlacedList count=2 (1 out at 1) | LabelUsedList count=2 | OriginList count=0
-Table1 colors 1,2=own
-caption: TipsLabel="Assigning Addresses . . ." | shown: InstructionBox | hidden: ReplaceBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
+session: PanelState=1 AddressError=-1 SelectionAnchor=1 MessageResult="1" | OriginList count=0
+Labels 1 "" - "1" | Table1 2 "" | colors 1,2=own | caption: TipsLabel="Assigning Addresses . . ."
+shown: InstructionBox | hidden: ReplaceBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*

@@ -8,14 +8,10 @@ open RenumberDialog
 > click RenumberDialog.DoneButton ; click SimulationView ; tick 9 ; changes
 closed RenumberDialog
 session: Cursor=5 LastLine=4 FileChanged=1 ClickedRow=2 SelectedInstruction=79 CurrentOpcode=118
-LabelCombo 0="loop" | LabelEqtList 0="8002" | LabelLineList 0="2" | LabelPlacedList 0="1"
-LabelUsedList 0="1" | LastAddressList 0="8006" | StringTable 1="count" 3="loop" | XXCombo 0="count"
-XXEqtList 0="03"
-Table1 1 - "8000" "MVI  B,   count" "06   03" "Move the equivalent of 'count' into B-register."
-Table1 2 "loop" "8002" "DCR  B" "05" "Decrement content of B-register."
-Table1 3 - "8003" "JNZ  loop" "C2   02   80" "Jump on no zero, to address pointed by 'loop'."
-Table1 4 - "8006" "HLT" "76" "Halt program execution."
-caption: TipsLabel="Program Mode."
+LastAddressList 0="8006" | StringTable 1="count" 3="loop" | Labels 0 "loop" "8002" "2" "1" "1"
+Variables 0 "count" "03" | Table1 1 - "8000" "MVI  B,   count" "06   03" default
+Table1 2 "loop" "8002" "DCR  B" "05" default | 3 - "8003" "JNZ  loop" "C2   02   80" default
+Table1 4 - "8006" "HLT" "76" default | caption: TipsLabel="Program Mode."
 > tick 1 ; changes
 open WatchWindowDialog
 WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode"
@@ -64,15 +60,14 @@ session: MessageResult="1"
 > key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
 > click WatchWindowDialog.ExecuteButton ; changes
 WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
-WatchWindowDialog.RegisterTable 13 - "8002"
-caption: WatchWindowDialog.AddrLbl="8002"
+WatchWindowDialog.RegisterTable 13 - "8002" | caption: WatchWindowDialog.AddrLbl="8002"
 # Chosen again while it is open, the window keeps all but the cells of the program.
 > click SimulationView ; settle ; changes
 # Closed and opened again it starts afresh.
 > press WatchWindowDialog.IButton 1 ; pick WatchWindowDialog.ValueList 7
 > click WatchWindowDialog.ForceButton ; changes
-WatchWindowDialog.PortTable 1 - "07"
-caption: WatchWindowDialog.IButton 1="1" | text: WatchWindowDialog.ValueList="07"
+WatchWindowDialog.PortTable 1 - "07" | caption: WatchWindowDialog.IButton 1="1"
+text: WatchWindowDialog.ValueList="07"
 > close WatchWindowDialog ; click SimulationView ; settle ; changes
 closed WatchWindowDialog
 open WatchWindowDialog
@@ -91,10 +86,9 @@ caption: WatchWindowDialog.AddrLbl="8002"
 > enter ; enter ; key DataAcceptButton 76 ; enter ; click SimulationView ; settle ; changes
 box critical "Compile error. Invalid address in origin FFFEh." ok -> ok
 session: Selection=4 PanelState=29 CurrentRow=4 LastLine=5 FileChanged=1 AddressError=-1
-    MessageResult="1"
-LastAddressList 0="7FFF" | OriginList 1="FFFE" | StringTable rows=33
-Table1 rows=33 (1 in at 1) | 1 "Origin" "FFFE" | 2 - "FFFE" "DFB" "C3" "Data Byte."
-Table1 3 - "FFFF" "DFB" "00" "Data Byte." | 4 - - "DFB" "76" "Data Byte."
+    MessageResult="1" | LastAddressList 0="7FFF" | OriginList 1="FFFE" | StringTable rows=33
+Table1 rows=33 (1 in at 1) | 1 "Origin" "FFFE" | 2 - "FFFE" "DFB" "C3" default
+Table1 3 - "FFFF" "DFB" "00" default | 4 - - "DFB" "76" default
 Table1 colors 1,0..4=E0E0E0 2,2=own 4,2=cursor
 caption: EntryMode="Program &Mode" TipsLabel="Preparing for simulation..." | shown: DataBox
 hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
@@ -104,8 +98,7 @@ hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
 open WatchWindowDialog
 > key WatchWindowDialog.AcceptButton FFFE ; click WatchWindowDialog.AcceptButton
 > click WatchWindowDialog.ExecuteButton ; changes
-session: Selection=2 CurrentRow=2 AddressError=0 SelectionAnchor=4
-LastAddressList 1="FFFF"
+session: Selection=2 CurrentRow=2 AddressError=0 SelectionAnchor=4 | LastAddressList 1="FFFF"
 Table1 1 "" "" | 2 "Origin" - "" "" "" | 3 - "FFFE" - "C3" | 4 - "FFFF" - "00"
 WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode" | 1 - "FFFE"
 WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
@@ -145,19 +138,14 @@ closed RenumberDialog
 > click SimulationView ; settle ; changes
 open WatchWindowDialog
 session: Cursor=13 PanelState=29 LastLine=11 FileChanged=1 SelectedInstruction=72 CurrentOpcode=243
-LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n" | XXCombo 0="p" 1="q" 2="m" 3="n"
-XXEqtList 0..1="05".."06" 2="1D" 3="0A"
-Table1 1 - "8000" "IN   p" "DB   05"
-    "Receive content from port address pointed by 'p' and store in Accumulator."
-Table1 2 - "8002" "CMA" "2F" "Complement content of Accumulator."
-Table1 3 - "8003" "OUT   q" "D3   06" "Send content of Accumulator to port address pointed by 'q'."
-Table1 4 - "8005" "MVI  A,   m" "3E   1D" "Move the equivalent of 'm' into Accumulator."
-Table1 5 - "8007" "SIM" "30" "Set interrupt mask." | 6 - "8008" "EI" "FB" "Enable interrupts."
-Table1 7 - "8009" "MVI  A,   n" "3E   0A" "Move the equivalent of 'n' into Accumulator."
-Table1 8 - "800B" "SIM" "30" "Set interrupt mask." | 9 - "800C" "RIM" "20" "Reset interrupt mask."
-Table1 10 - "800D" "DI" "F3" "Disable interrupts." | 11 - "800E" "DFB" "08" "Data Byte."
-Table1 12 - "800F" "DFB" "F5" "Data Byte." | WatchWindowDialog.InstructionTable rows=2
-WatchWindowDialog.InstructionTable 0 "Label" "Addr." "Mnemonics" "Opcode"
+LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n" | Variables 0 "p" "05" | 1 "q" "06"
+Variables 2 "m" "1D" | 3 "n" "0A" | Table1 1 - "8000" "IN   p" "DB   05" default
+Table1 2 - "8002" "CMA" "2F" default | 3 - "8003" "OUT   q" "D3   06" default
+Table1 4 - "8005" "MVI  A,   m" "3E   1D" default | 5 - "8007" "SIM" "30" default
+Table1 6 - "8008" "EI" "FB" default | 7 - "8009" "MVI  A,   n" "3E   0A" default
+Table1 8 - "800B" "SIM" "30" default | 9 - "800C" "RIM" "20" default | 10 - "800D" "DI" "F3" default
+Table1 11 - "800E" "DFB" "08" default | 12 - "800F" "DFB" "F5" default
+WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode"
 WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
 WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
 WatchWindowDialog.InterruptTable 7 - "1" | WatchWindowDialog.MemoryTable rows=65537
@@ -185,8 +173,7 @@ default: DataAcceptButton
 > click WatchWindowDialog.ForceButton ; key WatchWindowDialog.AcceptButton 8000
 > click WatchWindowDialog.AcceptButton ; click WatchWindowDialog.ExecuteButton ; changes
 WatchWindowDialog.InstructionTable 1 - "8002" "CMA" "2F" | WatchWindowDialog.PortTable 6 - "3C"
-WatchWindowDialog.RegisterTable 1 - "3C" | 13 - "8002"
-caption: WatchWindowDialog.AddrLbl="8000"
+WatchWindowDialog.RegisterTable 1 - "3C" | 13 - "8002" | caption: WatchWindowDialog.AddrLbl="8000"
 text: WatchWindowDialog.PortAddrList="05" WatchWindowDialog.ValueList="3C"
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
 WatchWindowDialog.InstructionTable 1 - "8005" "MVI  A,  1Dh" "3E   1D"
@@ -200,9 +187,8 @@ WatchWindowDialog.InterruptTable colors 3,0=00FF00 5,0=00FF00
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
 box information "This is an invalid instruction. However, the processor will execute this instruction as a NOP instruction." ok -> ok
-session: MessageResult="1"
-WatchWindowDialog.InstructionTable 1 - "800E" "-" "08" | WatchWindowDialog.RegisterTable 1 - "0A"
-WatchWindowDialog.RegisterTable 13 - "800E"
+session: MessageResult="1" | WatchWindowDialog.InstructionTable 1 - "800E" "-" "08"
+WatchWindowDialog.RegisterTable 1 - "0A" | 13 - "800E"
 WatchWindowDialog.InterruptTable colors 2,0=00FF00 3,0=0000FF 4,0=00FF00 5,0=0000FF
 > press WatchWindowDialog.IButton 1 ; press WatchWindowDialog.IButton 2 ; changes
 caption: WatchWindowDialog.IButton 1="1" WatchWindowDialog.IButton 2="1"
@@ -218,7 +204,6 @@ WatchWindowDialog.RegisterTable 13 - "800F"
 > click WatchWindowDialog.ExecuteButton ; changes
 caption: WatchWindowDialog.StepNoteLabel="This instruction could not be carried out."
 # The keypad and the keys of its OK button.
-> click WatchWindowDialog.NUM 15 ; click WatchWindowDialog.NUM 5 ; changes
-caption: WatchWindowDialog.AddrLbl="00F5"
+> click WatchWindowDialog.NUM 15 ; click WatchWindowDialog.NUM 5
 > key WatchWindowDialog.AcceptButton "gaF" ; changes
 caption: WatchWindowDialog.AddrLbl="F5AF"

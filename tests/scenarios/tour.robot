@@ -11,13 +11,11 @@
 # picture 02-register
 > click INST 1 ; changes
 session: PanelState=14 FileChanged=1 EntryPending=1 SelectedInstruction=1 CurrentOpcode=6
-Table1 1 - - "MVI"
-caption: TipsLabel="Select Register or Memory." | shown: RegisterBox | hidden: InstructionBox
-disabled: EditMenu/* FileMenu/* REG 8..9 ToolsMenu/* | focus: RegisterBox
+Table1 1 - - "MVI" | caption: TipsLabel="Select Register or Memory." | shown: RegisterBox
+hidden: InstructionBox | disabled: EditMenu/* FileMenu/* REG 8..9 ToolsMenu/* | focus: RegisterBox
 # picture 03-variable
 > click REG 7 ; changes
-session: PanelState=15 CurrentOpcode=62
-Table1 1 - - "MVI  A," "3E"
+session: PanelState=15 CurrentOpcode=62 | Table1 1 - - "MVI  A," "3E"
 caption: TipsLabel="Enter 8-bit number and click 'Accept'." | shown: XXBox
 hidden: RegisterBox XXDoneButton XXFindButton XXReplaceButton
 disabled: ExistingXXOption XXAcceptButton XXCombo | checked: NewXXOption | focus: XXText
@@ -26,14 +24,10 @@ default: XXAcceptButton
 > type XXText first ; enter ; row "MVI B,second" "ADD B" "STA sum" ; click INST 37
 > type LabelText stop ; changes
 session: Cursor=5 PanelState=4 LastLine=4 SelectedInstruction=37 CurrentOpcode=195
-LabelCombo 0="sum" | LabelEqtList 0="XXXX" | LabelLineList 0="0" | LabelPlacedList 0="0"
-LabelUsedList 0="1" | StringTable 1="first" 2="second" 4="sum" | XXCombo 0="first" 1="second"
-XXEqtList 0..1="XX"
-Table1 1 - - "MVI  A,   first" "3E   XX" "Move the equivalent of 'first' into Accumulator."
-Table1 2 - - "MVI  B,   second" "06   XX" "Move the equivalent of 'second' into B-register."
-Table1 3 - - "ADD  B" "80" "Add content of B-register to content of Accumulator."
-Table1 4 - - "STA  sum" "32   XX   XX" "Store content of Accumulator in address pointed by 'sum'."
-Table1 5 - - "JMP" "C3"
+StringTable 1="first" 2="second" 4="sum" | Labels 0 "sum" "XXXX" "0" "0" "1"
+Variables 0 "first" "XX" | 1 "second" "XX" | Table1 1 - - "MVI  A,   first" "3E   XX" default
+Table1 2 - - "MVI  B,   second" "06   XX" default | 3 - - "ADD  B" "80" default
+Table1 4 - - "STA  sum" "32   XX   XX" default | 5 - - "JMP" "C3"
 caption: TipsLabel="Enter Label and click 'Accept'." | text: LabelCombo="sum" LabelText="stop"
 shown: LabelBox | hidden: XXBox | disabled: LabelCombo | checked: NewLabelOption | focus: LabelText
 default: LabelAcceptButton
@@ -42,10 +36,8 @@ default: LabelAcceptButton
 > enter ; click PlaceLabelTool ; cell Table1 5 0 ; click ExistingPlaceOption
 > pick PlaceCombo 1 ; changes
 session: Selection=6 PanelState=17 CurrentRow=6 LastLine=5 EntryPending=0 ClickedRow=5
-LabelCombo 1="stop" | LabelEqtList 1="XXXX" | LabelLineList 1="0" | LabelPlacedList 1="0"
-LabelUsedList 1="1" | PlaceCombo 0="sum" 1="stop" | StringTable 5="stop"
-Table1 5 - - "JMP  stop" "C3   XX   XX" "Jump to address pointed by 'stop'."
-Table1 colors 5,0=00FF00 5,2=own 6,2=cursor
+PlaceCombo 0="sum" 1="stop" | StringTable 5="stop" | Labels 1 "stop" "XXXX" "0" "0" "1"
+Table1 5 - - "JMP  stop" "C3   XX   XX" default | colors 5,0=00FF00 5,2=own 6,2=cursor
 caption: TipsLabel="Select Row, Enter Label and Click 'Place'; or Click 'Cancel'."
 text: PlaceCombo="stop" | shown: PlaceBox | hidden: LabelBox | disabled: PlaceText
 checked: ExistingPlaceOption | focus: PlaceCombo | default: PlaceAcceptButton
@@ -54,18 +46,14 @@ checked: ExistingPlaceOption | focus: PlaceCombo | default: PlaceAcceptButton
 > enter ; click PlaceDoneButton ; click EqtOption ; cell RenumberDialog.LabelTable 1 0
 open RenumberDialog
 > key RenumberDialog.EqtAcceptButton 8050 ; changes
-session: PanelState=1
-LabelLineList 1="5" | LabelPlacedList 1="1"
-Table1 5 "stop" | RenumberDialog.LabelTable rows=3 | 0 "Label" "Current" "New"
-RenumberDialog.LabelTable 1 "sum" "XXXX" "XXXX" | 2 "stop" "XXXX" "XXXX"
+session: PanelState=1 | Labels 1 - - "5" "1" | Table1 5 "stop" | RenumberDialog.LabelTable rows=3
+RenumberDialog.LabelTable 0 "Label" "Current" "New" | 1 "sum" "XXXX" "XXXX" | 2 "stop" "XXXX" "XXXX"
 RenumberDialog.VariableTable rows=3 | 0 "Label" "Current" "New" | 1 "first" "XX" "XX"
-RenumberDialog.VariableTable 2 "second" "XX" "XX"
-Table1 colors 5,0=own
+RenumberDialog.VariableTable 2 "second" "XX" "XX" | Table1 colors 5,0=own
 caption: TipsLabel="Program Mode." RenumberDialog.EqtLabel="8050" RenumberDialog.LabelLabel="sum"
 shown: InstructionBox | hidden: PlaceBox RenumberDialog.VariableFrame
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
-checked: RenumberDialog.LabelsOption | focus: RenumberDialog.EqtAcceptButton
-default: RenumberDialog.EqtAcceptButton
+enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/* | checked: RenumberDialog.LabelsOption
+focus: RenumberDialog.EqtAcceptButton | default: RenumberDialog.EqtAcceptButton
 > enter ; click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
 > key RenumberDialog.XXAcceptButton 05 ; enter ; cell RenumberDialog.VariableTable 2 0
 > key RenumberDialog.XXAcceptButton 07 ; enter ; click RenumberDialog.DoneButton
@@ -75,16 +63,15 @@ closed RenumberDialog
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"
 session: HexPath="adder.hex" MessageResult="1"
-HexList 0=":0B8000003E05060780325080C3088058" 1=":00000001FF" | LabelEqtList 0="8050" 1="8008"
-LastAddressList 0="800A" | XXEqtList 0="05" 1="07"
-Table1 1 - "8000" - "3E   05" | 2 - "8002" - "06   07" | 3 - "8004" | 4 - "8005" - "32   50   80"
+HexList 0=":0B8000003E05060780325080C3088058" 1=":00000001FF" | LastAddressList 0="800A"
+Labels 0 - "8050" | 1 - "8008" | Variables 0 - "05" | 1 - "07" | Table1 1 - "8000" - "3E   05"
+Table1 2 - "8002" - "06   07" | 3 - "8004" | 4 - "8005" - "32   50   80"
 Table1 5 - "8008" - "C3   08   80" | TempTable rows=32 | 0 "8000" - - "Origin" | 1 "3E" "05"
 TempTable 2 "06" "07" | 3 "80" | 4 "32" "50" "80" | 5 "C3" "08" "80"
 # The places that a label could be replaced in, one of them selected.
 # picture 08-replace
 > click ReplaceLabel ; cell Table1 5 2 ; changes
-session: PanelState=24 SelectionAnchor=5
-ReplaceCombo 0="sum" 1="stop"
+session: PanelState=24 SelectionAnchor=5 | ReplaceCombo 0="sum" 1="stop"
 Table1 colors 4,2=0000FF/FFFFFF 5,0=0000FF/FFFFFF 5,2=00FF00/000000
 caption: TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
 text: ReplaceCombo="sum" | shown: ReplaceBox | hidden: InstructionBox
@@ -95,8 +82,8 @@ disabled: EditMenu/* FileMenu/* ReplaceCombo ToolsMenu/* | checked: NewReplaceOp
 open WatchWindowDialog
 > click WatchWindowDialog.AcceptButton ; click WatchWindowDialog.ExecuteButton
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
-session: PanelState=1
-WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode"
+session: PanelState=1 | WatchWindowDialog.InstructionTable rows=2
+WatchWindowDialog.InstructionTable 0 "Label" "Addr." "Mnemonics" "Opcode"
 WatchWindowDialog.InstructionTable 1 - "8005" "STA   8050h" "32   50   80"
 WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
 WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
@@ -116,8 +103,7 @@ Table1 colors 4,2=own 5,0=own 5,2=own
 WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
 caption: TipsLabel="Preparing for simulation..." WatchWindowDialog.AddrLbl="8000"
 text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00" | shown: InstructionBox
-hidden: ReplaceBox
-enabled: CopyEdit CutEdit DeleteEdit FileMenu/* FindEdit PlaceLabelTool ReplaceEdit ToolsMenu/*
+hidden: ReplaceBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 focus: WatchWindowDialog.AcceptButton
 > close WatchWindowDialog
 closed WatchWindowDialog
@@ -128,8 +114,8 @@ box question "Save changes to Pgm1.baf?" yesnocancel -> no
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"
 open DataDialog
 > drag DataDialog.DataTable 1 0 11 0 ; changes
-session: HexTitle="adder.hex" MessageResult="7"
-DataDialog.DataTable rows=12 | 0 "Address" "Data" "Category" | 1 "8000" "3E" "Mnemonic"
+session: HexTitle="adder.hex" MessageResult="7" | DataDialog.DataTable rows=12
+DataDialog.DataTable 0 "Address" "Data" "Category" | 1 "8000" "3E" "Mnemonic"
 DataDialog.DataTable 2..4 "8001".."8003" "05".."07" "Mnemonic" | 5 "8004" "80" "Mnemonic"
 DataDialog.DataTable 6 "8005" "32" "Mnemonic" | 7 "8006" "50" "Mnemonic" | 8 "8007" "80" "Mnemonic"
 DataDialog.DataTable 9 "8008" "C3" "Mnemonic" | 10 "8009" "08" "Mnemonic"
@@ -139,14 +125,10 @@ caption: DataDialog="Disassemble Dialog - adder.hex"
     DataDialog.DataTypeLabel="Mnemonic" | checked: DataDialog.DataType 1
 > click DataDialog.DoneButton ; settle ; changes
 closed DataDialog
-session: LastLine=6 FileOrigin=4 NextLabelNumber=2 NextVariableNumber=2
-LabelCombo 0="a0" 1="a1" | LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0
-StringTable rows=16 (16 out at 1) 1="v0" 2="v1" 4="a0" 5="a1" | XXCombo 0="v0" 1="v1"
-Table1 rows=16 (16 out at 1)
-Table1 1 - "8000" "MVI  A,  v0" "3E   05" "Move the equivalent of 'v0' into Accumulator."
-Table1 2 - "8002" "MVI  B,   v1" "06   07" "Move the equivalent of 'v1' into B-register."
-Table1 3 - "8004" "ADD  B " "80" "Add content of B-register to content of Accumulator."
-Table1 4 - "8005" "STA   a0" "32   50   80"
-    "Store content of Accumulator in address pointed by 'a0'."
-Table1 5 "a1" "8008" "JMP  a1" "C3   08   80" "Jump to address pointed by 'a1'."
+session: LastLine=6 FileOrigin=4 NextLabelNumber=2 NextVariableNumber=2 | LabelCombo 0="a0" 1="a1"
+LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0
+StringTable rows=16 (16 out at 1) 1="v0" 2="v1" 4="a0" 5="a1" | Variables 0 "v0" | 1 "v1"
+Table1 rows=16 (16 out at 1) | 1 - "8000" "MVI  A,  v0" "3E   05" default
+Table1 2 - "8002" "MVI  B,   v1" "06   07" default | 3 - "8004" "ADD  B " "80" default
+Table1 4 - "8005" "STA   a0" "32   50   80" default | 5 "a1" "8008" "JMP  a1" "C3   08   80" default
 caption: TipsLabel="Disassembling completed successfully."

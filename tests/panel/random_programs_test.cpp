@@ -85,7 +85,9 @@ TEST_P(RandomProgramsTest, AddressesAreSumsAndReachTheOperands) {
   int block = -1;
   for (int row = 0; row < session.Table1.Rows(); ++row) {
     if (session.IsOrigin(row)) {
-      if (block >= 0) EXPECT_EQ(session.LastAddressList[block], AddressText(address - 1));
+      if (block >= 0) {
+        EXPECT_EQ(session.LastAddressList[block], AddressText(address - 1));
+      }
       address = HexValue(Cell(row, kAddressColumn));
       EXPECT_EQ(session.OriginList[++block], AddressText(address));
     } else if (!Cell(row, kMnemonicColumn).empty()) {
@@ -98,7 +100,9 @@ TEST_P(RandomProgramsTest, AddressesAreSumsAndReachTheOperands) {
   EXPECT_EQ(session.LastAddressList[block], AddressText(address - 1));
   for (int row = 1; row < session.Table1.Rows(); ++row) {
     const std::string& cell = Cell(row, kOpcodeColumn);
-    if (HasLabel(cell)) EXPECT_EQ(AddressIn(cell), labels.at(session.OperandOf(row))) << row;
+    if (HasLabel(cell)) {
+      EXPECT_EQ(AddressIn(cell), labels.at(session.OperandOf(row))) << row;
+    }
   }
 }
 

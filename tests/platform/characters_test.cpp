@@ -31,13 +31,6 @@ TEST(CharactersTest, BytesThatAreNoCharacterStandAlone) {
   }
 }
 
-TEST(CharactersTest, PrefixCountsCharacters) {
-  const std::string text = "a\xC3\xA9\xFF\xE2\x82\xAC";
-  const std::size_t lengths[] = {0, 1, 3, 4, 7, 7};
-  int count = 0;
-  for (const std::size_t length : lengths) EXPECT_EQ(PrefixLength(text, count++), length);
-}
-
 TEST(TextBoxTest, LimitCountsCharactersAndChangesAreHeardOnce) {
   TextBox box(nullptr, "Box", 3);
   int changes = 0;

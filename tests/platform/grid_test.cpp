@@ -103,17 +103,6 @@ TEST_F(GridTest, CurrentCellIsReportedOnceForEachMove) {
   }
 }
 
-TEST_F(GridTest, CurrentRowKeepsItsNumberUpToTheLastRow) {
-  grid_.SelectRow(2);
-  grid_.InsertRows(0, 1);
-  EXPECT_EQ(grid_.Row(), 2);
-  grid_.RemoveRows(0, 2);
-  EXPECT_EQ(grid_.Row(), 1);
-  EXPECT_EQ(grid_.RowSel(), 1);
-  grid_.SetRows(0);
-  EXPECT_EQ(grid_.Row(), 0);
-}
-
 TEST_F(GridTest, DragEndsInsideAndHeadingRowsStayBehind) {
   int releases = 0;
   grid_.MouseUp = [&] { ++releases; };
@@ -131,15 +120,6 @@ TEST_F(GridTest, DragEndsInsideAndHeadingRowsStayBehind) {
   EXPECT_EQ(grid_.MouseCol(), 1);
   grid_.ReleaseAt(0);
   EXPECT_EQ(grid_.RowSel(), 1);
-}
-
-TEST_F(GridTest, HandlerThatFailsEndsWhereItStands) {
-  grid_.Click = [&] {
-    grid_.SetTextMatrix(0, 0, "written");
-    grid_.SetTextMatrix(9, 0, "outside");
-  };
-  grid_.ClickCell();
-  EXPECT_EQ(grid_.TextMatrix(0, 0), "written");
 }
 
 }  // namespace

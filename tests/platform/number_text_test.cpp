@@ -64,15 +64,5 @@ TEST(NumberTextTest, HexadecimalTextIsUpperCaseAndPaddedAsAddress) {
   }
 }
 
-TEST(NumberTextTest, DigitsOfAllCharacters) {
-  const std::string_view digits = "0123456789ABCDEFabcdef";
-  for (int code = 0; code <= std::numeric_limits<unsigned char>::max(); ++code) {
-    const auto character = static_cast<char>(code);
-    const std::size_t at = digits.find(character);
-    const int value = at == std::string_view::npos ? -1 : static_cast<int>(at < 16 ? at : at - 6);
-    EXPECT_EQ(DigitValue(character), value) << code;
-  }
-}
-
 }  // namespace
 }  // namespace quilla

@@ -27,15 +27,6 @@ TEST(TextListTest, WritingAtTheEndAppendsAndBeyondFails) {
   EXPECT_EQ(list.Count(), 2);
 }
 
-TEST(TextListTest, MarksBeyondItsEndAreMissingNotSet) {
-  TextList list(nullptr, "List");
-  list.Assign({"a", "b", "c", "d"});
-  list.RemoveMarked({true, false, true});
-  EXPECT_EQ(list.items(), (std::vector<std::string>{"b", "d"}));
-  list.RemoveMarked({});
-  EXPECT_EQ(list.Count(), 2);
-}
-
 TEST(ComboBoxTest, ChoiceFollowsItsEntry) {
   const std::vector<bool> doomed = {true, true, false, true};
   const struct {
@@ -65,21 +56,6 @@ TEST(ComboBoxTest, ChoiceFollowsItsEntry) {
     EXPECT_EQ(list.index(), index) << "case " << number;
     EXPECT_EQ(list.text(), text) << "case " << number++;
   }
-}
-
-TEST(ComboBoxTest, OnlyTheUsersChoiceRunsTheHandler) {
-  ComboBox list(nullptr, "Combo");
-  int clicks = 0;
-  list.Click = [&] { ++clicks; };
-  list.SelectFirst();
-  EXPECT_EQ(list.index(), ComboBox::kNothingChosen);
-  list.Add("a");
-  list.Select(0);
-  EXPECT_EQ(clicks, 0);
-  list.Pick(0);
-  EXPECT_EQ(clicks, 1);
-  EXPECT_EQ(FailureOf([&] { list.Select(1); }), ErrorNumber::kOutsideList);
-  EXPECT_EQ(list.index(), 0);
 }
 
 }  // namespace

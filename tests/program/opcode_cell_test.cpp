@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/failure_of.h"
 #include "program/mnemonic.h"
 
 namespace quilla {
@@ -48,14 +47,6 @@ TEST(OpcodeCellTest, OperandsReplaceWhatStoodBehindTheOpcode) {
   EXPECT_EQ(WithLabel("", ""), "      ");
   EXPECT_EQ(WithLabel("C3", "123"), "C3   3   12");
   EXPECT_EQ(AddressIn("C3   10"), "10");
-}
-
-TEST(OpcodeCellTest, OpcodeIsTheFirstTwoDigits) {
-  EXPECT_EQ(OpcodeOf("C3   10   80"), 0xC3);
-  EXPECT_EQ(OpcodeOf("7"), 7);
-  for (const std::string_view cell : {"", "XX", " 3", "G0   00"}) {
-    EXPECT_EQ(FailureOf([&] { OpcodeOf(cell); }), ErrorNumber::kNotANumber) << cell;
-  }
 }
 
 TEST(MnemonicTest, NewNameStandsInPlaceOfTheOld) {

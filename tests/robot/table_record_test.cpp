@@ -94,11 +94,5 @@ TEST(TableRecordTest, EqualAndCountingEntriesAreOneRun) {
     EXPECT_EQ(TextsOf(ListOf(before), ListOf(now)), text);
 }
 
-TEST(TableRecordTest, LongLinesGoOnInTheNext) {
-  const std::string item(40, 'x');
-  EXPECT_EQ(TextsOf(ListOf({}), ListOf({item, item + "y", item})),
-            "T 0=\"" + item + "\" 1=\"" + item + "y\"\n    2=\"" + item + "\"\n");
-}
-
 }  // namespace
 }  // namespace quilla::robot

@@ -35,18 +35,6 @@ TEST_F(VirtualClockTest, FiresInOrderOfTimeThenOfEnabling) {
   EXPECT_EQ(fired_, "SOQ");
 }
 
-TEST_F(VirtualClockTest, EnablingAgainStartsTheIntervalAnew) {
-  quick_.Enable();
-  clock_.Pass(9);
-  quick_.Enable();
-  other_.Enable();
-  other_.Disable();
-  clock_.Pass(9);
-  EXPECT_EQ(fired_, "");
-  clock_.Pass(1);
-  EXPECT_EQ(fired_, "Q");
-}
-
 TEST_F(VirtualClockTest, TimerFiresOnceUnlessItsHandlerEnablesItAgain) {
   quick_.Fire = [this] {
     EXPECT_FALSE(quick_.enabled());
@@ -60,17 +48,6 @@ TEST_F(VirtualClockTest, TimerFiresOnceUnlessItsHandlerEnablesItAgain) {
   EXPECT_EQ(fired_, "OQQ");
   clock_.PassAll();
   EXPECT_EQ(fired_, "OQQSQ") << "at one time, the timer enabled first";
-}
-
-TEST_F(VirtualClockTest, SettlingPlaysAChainToItsEnd) {
-  quick_.Fire = [this] {
-    fired_ += "Q";
-    slow_.Enable();
-    other_.Enable();
-  };
-  quick_.Enable();
-  clock_.PassAll();
-  EXPECT_EQ(fired_, "QOS");
 }
 
 TEST_F(VirtualClockTest, HandlerMayLetTimePassItself) {
@@ -87,15 +64,6 @@ TEST_F(VirtualClockTest, HandlerMayLetTimePassItself) {
   EXPECT_EQ(fired_, "QS") << "time stood still behind the 110 ms that had passed";
   clock_.Pass(1);
   EXPECT_EQ(fired_, "QSO");
-}
-
-TEST_F(VirtualClockTest, TimerThatGoesIsForgotten) {
-  {
-    Timer gone(clock_, "G", 5);
-    gone.Enable();
-  }
-  clock_.PassAll();
-  EXPECT_EQ(fired_, "");
 }
 
 }  // namespace

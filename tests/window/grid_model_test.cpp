@@ -69,15 +69,6 @@ TEST_F(GridModelTest, ReportsTouchedRowsOnceAndNoOthers) {
   EXPECT_EQ(changes[0][1].toModelIndex().row(), 3);
 }
 
-TEST_F(GridModelTest, TellsWhereTheCursorWasPainted) {
-  QSignalSpy touches(&model_, &GridModel::CursorTouched);
-  grid_.PaintBack(1, 0, kSelectionColor);
-  grid_.InsertRows(0, 2);
-  QCoreApplication::processEvents();
-  ASSERT_EQ(touches.size(), 1);
-  EXPECT_EQ(touches[0][0].toInt(), 3);
-}
-
 class TableModelTest : public PanelTest {};
 
 TEST_F(TableModelTest, IsNeverResetByKeys) {

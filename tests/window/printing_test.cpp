@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPageLayout>
@@ -12,7 +11,6 @@
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -22,7 +20,6 @@
 #include "print/page_layouts.h"
 #include "robot/scripted_outside.h"
 #include "window/panel_fixture.h"
-#include "window/print_info_window.h"
 #include "window/qt_printer.h"
 #include "window/sheet.h"
 #include "window/when_open.h"
@@ -250,22 +247,6 @@ TEST_F(PanelTest, ARunIsBusyAndTakesNoInput) {
   outside_.clock.PassAll();
   EXPECT_TRUE(window().isEnabled());
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(PanelTest, ThePrintInformationHasItsCountsBesideTheirCaptions) {
-  const std::vector<Form*> forms = quilla_.panel()->Dialogs();
-  Form* const form = *std::find_if(forms.begin(), forms.end(),
-                                   [](const Form* each) { return each->name() == kPrintInfo; });
-  dynamic_cast<Label*>(form->Find("TotalPagesLabel"))->set_caption("7");
-  Gate gate;
-  const PrintInfoWindow info(gate, outside_.event_loop, *form);
-  EXPECT_EQ(info.windowTitle(), "Print Information");
-  QStringList texts;
-  for (const auto* label : info.findChildren<QLabel*>()) texts += label->text();
-  EXPECT_EQ(texts.join('|'),
-            "Number of lines of program:||Number of pages for program:||Number of labels:||"
-            "Number of variables:||Total Number of strings:||Number of pages for equivalents:||"
-            "Total Number of pages:|7");
 }
 
 }  // namespace

@@ -88,11 +88,6 @@ TEST(QtMessageBoxesTest, ShowTheTextAndGiveTheButton) {
   }
 }
 
-TEST(QtFileDialogsTest, FiltersAreThoseOfTheRequest) {
-  EXPECT_EQ(QtFilter("Hex Files(*.hex)|*.hex"), "Hex Files (*.hex)");
-  EXPECT_EQ(QtFilter("Both (*.a;*.b)|*.a;*.b"), "Both (*.a *.b)");
-}
-
 TEST(QtFileDialogsTest, GiveThePathAsTypedOrNothing) {
   const QTemporaryDir folder;
   QtFileDialogs dialogs;
@@ -112,22 +107,6 @@ TEST(QtFileDialogsTest, GiveThePathAsTypedOrNothing) {
     dialog.reject();
   });
   EXPECT_EQ(dialogs.Choose(request), std::nullopt);
-}
-
-TEST(QtClockTest, ATimerFiresOnce) {
-  Gate gate;
-  QtClock clock(gate);
-  Timer timer(clock, "Timer", 1);
-  Timer never(clock, "Never", 1);
-  int fired = 0;
-  timer.Fire = [&] { ++fired; };
-  never.Fire = [] { ADD_FAILURE() << "disabled before it was due"; };
-  never.Enable();
-  never.Disable();
-  timer.Enable();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return fired == 1; }));
-  QTest::qWait(5);
-  EXPECT_EQ(fired, 1);
 }
 
 class QtEventLoopTest : public testing::Test {

@@ -293,7 +293,7 @@ TEST(InstructionsTest, FlagsFollowTheModel) {
 
 // Every opcode from states that no program should reach: a step ends or fails.
 TEST(InstructionsTest, AStepFromAnyTextsEndsOrFails) {
-  constexpr int kSteps = 0x100 * 20;
+  constexpr int kRuns = 0x100 * 20;
   static const char* const kOdd[] = {"",         "X",          "Value", "-1",  "g0",   "5",
                                      "7FFFFFFF", "0FFFFFFFFF", "FF",    "100", "\xC3", "0001"};
   Lab lab;
@@ -304,7 +304,7 @@ TEST(InstructionsTest, AStepFromAnyTextsEndsOrFails) {
     lab.tables.SetMemRow(row % 2 == 0 ? row / 8 : kAddressSpace - row / 8, odd());
     lab.tables.SetPort(row, odd());
   }
-  for (int step = 0; step < kSteps; ++step) {
+  for (int step = 0; step < kRuns; ++step) {
     for (int row = kRowA; row <= kRowAuxCarry; ++row) lab.tables.SetReg(row, odd());
     lab.machine.Reset();
     lab.Load(step % 2 == 0 ? 0 : kTopAddress, PaddedHexText(step / 20, kByteDigits) + " 05");

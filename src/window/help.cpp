@@ -12,7 +12,7 @@ namespace quilla {
 QString SectionOf(const Form& form, PanelState state) {
   static const std::map<std::string_view, const char*> kOfWindow = {
       {kRenumberDialog, "equivalents"},
-      {kDataDialog, "data-bytes"},
+      {kDataDialog, "back-from-hex-to-a-program"},
       {kPrintInfo, "on-paper"},
       {kWatchWindowDialog, "the-simulator"}};
   static const std::map<PanelState, const char*> kOfState = {

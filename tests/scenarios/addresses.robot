@@ -78,16 +78,15 @@ Table1 1 "" - "JMP  n" "C3   XX   XX"
 == origins
 # The display starts at 0000, shifts left and keeps four digits.
 > row NOP ; click NewOrigin ; key NumberAcceptButton gz12 ; click NUM 3 ; click NUM 10
-> key NumberAcceptButton 5 ; changes
-session: Cursor=2 PanelState=28 FileChanged=1 SelectedInstruction=78
-Table1 1 - - "NOP" "00" default | caption: DataTypeLabel="Address" NumberLabel="23A5"
-    TipsLabel="Enter starting address of the Origin and Click 'Accept', or press 'Esc' to quit."
-shown: NumberBox | hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/*
-focus: NumberAcceptButton | default: NumberAcceptButton
+> key NumberAcceptButton 5
 # One that is taken is refused; the number stands to be corrected, and Esc gives up.
 > escape ; click NewOrigin ; key NumberAcceptButton 8000 ; enter ; changes
 box critical "Origin Address already used. Enter another address." ok -> ok
-session: MessageResult="1" | caption: NumberLabel="8000"
+session: Cursor=2 PanelState=28 FileChanged=1 SelectedInstruction=78 MessageResult="1"
+Table1 1 - - "NOP" "00" default | caption: DataTypeLabel="Address"
+    TipsLabel="Enter starting address of the Origin and Click 'Accept', or press 'Esc' to quit."
+shown: NumberBox | hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/*
+focus: NumberAcceptButton | default: NumberAcceptButton
 > key NumberAcceptButton 7 ; enter ; click NewOrigin ; key NumberAcceptButton 0007
 > click NumberAcceptButton ; escape ; changes
 box critical "Origin Address already used. Enter another address." ok -> ok
@@ -106,15 +105,9 @@ box critical "Origin Address already used. Enter another address." ok -> ok
 session: PanelState=25 ClickedRow=3 | OriginList count=2
 caption: TipsLabel="Enter starting address of the Origin and Click Accept', or press 'Esc' to quit."
 shown: NumberBox | hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/*
-> key NumberAcceptButton 7 ; enter ; changes
-session: PanelState=1 | OriginList 2="0007" | caption: TipsLabel="Program Mode."
-shown: InstructionBox | hidden: NumberBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
-> cell Table1 3 0 ; key NumberAcceptButton 0007 ; enter ; cell Table1 3 0
-> key NumberAcceptButton fff0 ; enter ; changes
+> key NumberAcceptButton 7 ; enter ; cell Table1 3 0 ; key NumberAcceptButton 0007 ; enter
+> cell Table1 3 0 ; key NumberAcceptButton fff0 ; enter
 box critical "Origin Address already used. Enter another address." ok -> ok
-session: PanelState=25 | OriginList count=2 | caption: NumberLabel="FFF0"
-    TipsLabel="Enter starting address of the Origin and Click Accept', or press 'Esc' to quit."
-shown: NumberBox | hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/*
 # In data mode it ends in data mode.
 > click EntryMode ; cell Table1 0 0 ; key NumberAcceptButton 9abc ; enter ; changes
 refused EntryMode disabled
@@ -146,11 +139,10 @@ refused RenumberDialog.NUM hidden
 refused RenumberDialog.XXAcceptButton disabled
 RenumberDialog.VariableTable 2 - - "AB"
 # The edits stay in the dialog's tables; the frame drops them, and the file counts as changed.
-> close RenumberDialog ; changes
+> close RenumberDialog ; click EqtOption ; cell RenumberDialog.VariableTable 1 0
 closed RenumberDialog
-> click EqtOption ; cell RenumberDialog.VariableTable 1 0 ; key RenumberDialog.XXAcceptButton 0f
 open RenumberDialog
-> enter ; click RenumberDialog.DoneButton ; changes
+> key RenumberDialog.XXAcceptButton 0f ; enter ; click RenumberDialog.DoneButton ; changes
 closed RenumberDialog
 Variables 0 - "0F" | Table1 1 - - - "3E   0F"
 # Both kinds: labels first, and a page change keeps what is open on the other page.
@@ -176,18 +168,14 @@ caption: RenumberDialog.EqtLabel="457A" RenumberDialog.LabelLabel="loop"
 shown: RenumberDialog.DigitBox RenumberDialog.EqtBox | focus: RenumberDialog.EqtAcceptButton
 default: RenumberDialog.EqtAcceptButton
 > click RenumberDialog.EqtAcceptButton ; click RenumberDialog.VariablesOption
-> click RenumberDialog.NUM 8 ; click RenumberDialog.XXAcceptButton ; changes
+> click RenumberDialog.NUM 8 ; click RenumberDialog.XXAcceptButton
 refused RenumberDialog.NUM hidden
 refused RenumberDialog.XXAcceptButton hidden
-RenumberDialog.LabelTable 1 - - "457A" | shown: RenumberDialog.VariableFrame
-hidden: RenumberDialog.DigitBox RenumberDialog.LabelFrame | checked: RenumberDialog.VariablesOption
-unchecked: RenumberDialog.LabelsOption
 # The number goes to the row that is current when it is accepted.
 > click RenumberDialog.LabelsOption ; cell RenumberDialog.LabelTable 1 0
 > key RenumberDialog.EqtAcceptButton 8010 ; cell RenumberDialog.LabelTable 2 1 ; enter ; changes
-RenumberDialog.LabelTable 2 - - "8010" | shown: RenumberDialog.LabelFrame
-hidden: RenumberDialog.EqtBox RenumberDialog.VariableFrame | checked: RenumberDialog.LabelsOption
-unchecked: RenumberDialog.VariablesOption
+RenumberDialog.LabelTable 1 - - "457A" | 2 - - "8010"
+hidden: RenumberDialog.DigitBox RenumberDialog.EqtBox
 # The panel waits behind the dialog, which Esc does not close. Done rewrites all rows of a string.
 > row NOP ; close ProgrammingPanel ; escape ; click RenumberDialog.DoneButton ; changes
 refused INST modal
@@ -201,15 +189,3 @@ Table1 5 - - - "21   7A   45"
 session: ClickedRow=5 | LastAddressList 0="800E" | Labels 0 - "800A" "5" "1" | Table1 1 - "8000"
 Table1 2 - "8002" | 3 - "8004" - "C3   0A   80" | 4 - "8007" | 5 "loop" "800A" - "21   0A   80"
 Table1 6 - "800D"
-# Timers do not wait: addresses assigned behind the dialog give way to what its table holds.
-> click EqtOption ; cell RenumberDialog.LabelTable 1 0 ; key RenumberDialog.EqtAcceptButton 1122
-open RenumberDialog
-> enter ; click RenumberDialog.DoneButton ; click AssignAddress ; click EqtOption ; changes
-closed RenumberDialog
-open RenumberDialog
-Labels 0 - "1122" | Table1 3 - - - "C3   22   11" | 5 - - - "21   22   11"
-RenumberDialog.LabelTable 1 - "1122" "1122" | 2 - "8010"
-caption: TipsLabel="Assigning Addresses . . ." | default: RenumberDialog.-
-> settle ; click RenumberDialog.DoneButton ; changes
-closed RenumberDialog
-caption: TipsLabel="Program Mode."

@@ -66,7 +66,7 @@ TempTable 4 "C9" "" "" ""
 > key DataAcceptButton 2 ; enter ; key DataAcceptButton 3 ; enter ; click EntryMode
 > click NewOrigin ; key NumberAcceptButton f ; enter ; row HLT ; click NewOrigin
 > key NumberAcceptButton 0 ; enter ; row RET ; click NewOrigin ; key NumberAcceptButton 1000
-> enter ; row RET ; click AssembleFile ; list HexList ; changes
+> enter ; row RET ; click AssembleFile ; list HexList
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> cancel
 HexList 0 ":034000010203B7"
@@ -75,8 +75,19 @@ HexList 2 ":010000C936"
 HexList 3 ":01100000C926"
 HexList 4 ":011FFE00C919"
 HexList 5 ":00000001FF"
-session: LastLine=32 AddressError=0 SelectionAnchor=1 SelectedInstruction=58 CurrentOpcode=201
-    SavedCells(2)="" SavedCells(3)="" SavedCells(4)="" SavedCells(5)=""
+# A folder that is not there, and a folder in place of a file: told, nothing lost, and the next try
+# works. The panel is ready each time.
+> path missing/out.hex ; click AssembleFile ; click EntryMode ; path . ; click AssembleFile
+box information "Unused strings have been deleted." ok -> ok
+dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "missing/out.hex"
+box critical "Unable to save file." ok -> ok
+box information "Unused strings have been deleted." ok -> ok
+dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "."
+box critical "Unable to save file." ok -> ok
+> changes
+session: Selection=1 PanelState=29 CurrentRow=1 LastLine=32 AddressError=0 SelectionAnchor=1
+    SelectedInstruction=58 CurrentOpcode=201 SavedCells(2)="" SavedCells(3)="" SavedCells(4)=""
+    SavedCells(5)="" HexPath="."
 HexList 0=":034000010203B7" 1=":010F00767A" 2=":010000C936" 3=":01100000C926" 4=":011FFE00C919"
     5=":00000001FF" | LastAddressList 0="00FE" 1="0042" 2="000F" 3="0000" 4="1000" 5="1FFF" 6="1FFE"
 OriginList count=7 (6 in at 0) 0="00FF" 1="0040" 2="000F" 3="0000" 4="1000" 5="2000" 6="1FFE"
@@ -89,21 +100,9 @@ Table1 14 "Origin" "1FFE" "" "" "" | 15 - "1FFE" "RET" "C9" | 16 "" "" "" "" "" 
 TempTable 0 "00FF" - - "Origin" | 2 "0040" - - "Origin" | 3..5 "01".."03" | 6 "000F" - - "Origin"
 TempTable 7 "76" | 8 "0000" - - "Origin" | 9 "C9" | 10 "1000" - - "Origin" | 11 "C9"
 TempTable 13 "2000" - - "Origin" | 14 "1FFE" - - "Origin" | 15 "C9"
-Table1 colors 0,0..4=E0E0E0 2,0..1=E0E0E0 2,2=E0E0E0/cursor 2,3..4=E0E0E0 6,0..4=E0E0E0
-    8,0..4=E0E0E0 10,0..4=E0E0E0 14,0..4=E0E0E0 15,2=own | caption: TipsLabel="Program Mode."
-# A folder that is not there, and a folder in place of a file: told, nothing lost, and the next try
-# works. The panel is ready each time.
-> path missing/out.hex ; click AssembleFile ; click EntryMode ; path . ; click AssembleFile
-box information "Unused strings have been deleted." ok -> ok
-dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "missing/out.hex"
-box critical "Unable to save file." ok -> ok
-box information "Unused strings have been deleted." ok -> ok
-dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "."
-box critical "Unable to save file." ok -> ok
-> changes
-session: Selection=1 PanelState=29 CurrentRow=1 HexPath="." | Table1 colors 1,2=cursor 2,2=E0E0E0
-caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
-focus: DataAcceptButton | default: DataAcceptButton
+Table1 colors 0,0..4=E0E0E0 1,2=cursor 2,0..4=E0E0E0 6,0..4=E0E0E0 8,0..4=E0E0E0 10,0..4=E0E0E0
+    14,0..4=E0E0E0 15,2=own | caption: EntryMode="Program &Mode" TipsLabel="Data Mode."
+shown: DataBox | hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
 > click EntryMode ; path "out \xC3\xA9.hex" ; click AssembleFile ; changes
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "out \xC3\xA9.hex"

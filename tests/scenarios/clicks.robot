@@ -45,13 +45,12 @@ session: Cursor=5
 # row of the cursor.
 > click EntryMode ; cell Table1 6 2 ; row "JMP go" ; click EntryMode ; cell Table1 6 3
 refused INST hidden
-> type LabelText stay ; click LabelAcceptButton ; changes
+> type LabelText stay ; click LabelAcceptButton ; escape ; click EntryMode ; changes
 refused LabelText hidden
 refused LabelAcceptButton hidden
-session: Cursor=6 SelectionAnchor=6
-> escape ; click EntryMode ; changes
-session: PanelState=29 | caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox
-hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
+session: Cursor=6 PanelState=29 SelectionAnchor=6
+caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
+focus: DataAcceptButton | default: DataAcceptButton
 # A label in the first column answers no click, an origin opens its editor.
 > click PlaceLabelTool ; cell Table1 2 2 ; type PlaceText here ; click PlaceAcceptButton
 > click PlaceDoneButton ; cell Table1 2 0 ; cell Table1 0 0 ; key NumberAcceptButton 1c0de

@@ -22,32 +22,25 @@ session: Cursor=5 PanelState=10 LastLine=3 SelectedInstruction=0 CurrentOpcode=1
 Table1 1 - - "DAD  SP" "39" default | 2 - - "PUSH  PSW" "F5" default | 3 - - "LDAX  D" "1A" default
 Table1 4 - - "ADD  A" "87" default | 5 - - "MOV  M,"
 caption: TipsLabel="Select Register or Memory (Source)." | enabled: REG 1,3,5,7 | disabled: REG 8
-> key RegisterBox L ; click INST 0 ; click REG 7 ; click REG 6 ; changes
-session: Cursor=7 PanelState=1 LastLine=6 EntryPending=0 CurrentOpcode=126
-Table1 5 - - "MOV  M,  L" "75" default | 6 - - "MOV  A,  M" "7E" default
-caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: RegisterBox
-enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+> key RegisterBox L ; click INST 0 ; click REG 7 ; click REG 6
 # The number of RST: only the keys 0 to 7, no accepting. A digit follows the pointer.
 > click INST 67 ; click NUM 8 ; click NumberAcceptButton ; key NumberAcceptButton 3 ; hover NUM 5
 refused NUM disabled
 refused NumberAcceptButton disabled
 refused NumberAcceptButton disabled
 > changes
-session: PanelState=12 EntryPending=1 SelectedInstruction=67 CurrentOpcode=199 | Table1 7 - - "RST"
+session: Cursor=7 PanelState=12 LastLine=6 SelectedInstruction=67 CurrentOpcode=199
+Table1 5 - - "MOV  M,  L" "75" default | 6 - - "MOV  A,  M" "7E" default | 7 - - "RST"
 caption: DataTypeLabel="Number" NumberLabel="5" TipsLabel="Select Number." | shown: NumberBox
-hidden: InstructionBox | disabled: EditMenu/* FileMenu/* NUM 8..15 NumberAcceptButton ToolsMenu/*
-focus: NumberFocusButton
-> key NumberFocusButton 89afx ; enter ; click NUM 5 ; changes
+hidden: RegisterBox | disabled: NUM 8..15 NumberAcceptButton | focus: NumberFocusButton
+> key NumberFocusButton 89afx ; enter ; click NUM 5
 refused LabelAcceptButton disabled
-session: Cursor=8 PanelState=1 LastLine=7 EntryPending=0 CurrentOpcode=239
-Table1 7 - - "RST 5" "EF" default | caption: TipsLabel="Program Mode." | shown: InstructionBox
-hidden: NumberBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 # Hints, until the pointer is elsewhere; the table clears that of the instruction alone.
 > hover INST 9 ; click INST 20 ; hover REG 6 ; changes
-session: PanelState=3 EntryPending=1 SelectedInstruction=20 CurrentOpcode=5 | Table1 8 - - "DCR"
+session: Cursor=8 PanelState=3 LastLine=7 SelectedInstruction=20 CurrentOpcode=5
+Table1 7 - - "RST 5" "EF" default | 8 - - "DCR"
 caption: RegisterLabel="M" TipsLabel="Select Register or Memory." | shown: RegisterBox
-hidden: InstructionBox | enabled: REG 6 | disabled: EditMenu/* FileMenu/* ToolsMenu/*
-focus: RegisterBox
+hidden: NumberBox | enabled: REG 6 | focus: RegisterBox
 > hover Table1 3 2 ; changes
 > hover ProgrammingPanel ; click REG 3 ; changes
 session: Cursor=9 PanelState=1 LastLine=8 EntryPending=0 CurrentOpcode=29
@@ -131,11 +124,9 @@ Table1 rows=35 (1 in at 1) | 1 - - "DI" "F3" default
 > cell Table1 34 2 ; changes
 session: Cursor=34 LastLine=8 SelectionAnchor=34 | StringTable rows=44 | Table1 rows=44 (9 in at 26)
 # Going over to Insert opens a line at the cursor, going back moves nothing.
-> cell Table1 4 2 ; click WriteMode ; changes
+> cell Table1 4 2 ; click WriteMode ; click WriteMode ; changes
 session: Selection=4 CurrentRow=4 LastLine=9 SelectionAnchor=4 | StringTable rows=45
-Table1 rows=45 (1 in at 4) | colors 4,2=cursor 35,2=own | caption: WriteModeLabel="Insert"
-> click WriteMode ; changes
-caption: WriteModeLabel="Overwrite"
+Table1 rows=45 (1 in at 4) | colors 4,2=cursor 35,2=own
 # In Insert mode every click on a mnemonic opens a line there, except on row 0, and so does each
 # finished instruction; a drag opens none.
 > click WriteModeLabel ; cell Table1 6 2 ; row RIM SIM ; changes
@@ -165,23 +156,21 @@ Table1 1 - - - - "ab, c" | text: CommentsTxt="ab, c"
 > changes
 session: ClickedRow=2 SavedComment="Move the equivalent of 'n' into Accumulator."
 Table1 colors 1,4=own 2,4=C0FFC0 | text: CommentsTxt=""
-> click CommentNextButton ; type CommentsTxt alone ; click DefaultCommentButton ; changes
+> click CommentNextButton ; type CommentsTxt alone ; click DefaultCommentButton
 refused DefaultCommentButton disabled
-session: ClickedRow=3 SavedComment="" | Table1 3 - - - - "alone" | colors 2,4=own 3,4=C0FFC0
-text: CommentsTxt="alone" | disabled: DefaultCommentButton
 # Ignore takes back the row under edit alone, Esc nothing.
 > cell Table1 2 0 ; type CommentsTxt ! ; click CommentCancelButton ; click CommentsTool
 > cell Table1 3 3 ; type CommentsTxt ? ; escape ; changes
-session: PanelState=1 LastLine=3 SavedComment="alone" | Table1 3 - - - - "alone?" | colors 3,4=own
-caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: CommentsBox
-enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+session: PanelState=1 LastLine=3 ClickedRow=3 SavedComment="alone" | Table1 3 - - - - "alone?"
+Table1 colors 2,4=own | caption: TipsLabel="Program Mode." | shown: InstructionBox
+hidden: CommentsBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 # The last row has no next one. In data mode the tool returns to data mode.
 > click EntryMode ; click CommentsTool ; cell Table1 31 4 ; changes
 session: PanelState=20 ClickedRow=31 SavedComment="" | Table1 colors 31,4=C0FFC0
 caption: EntryMode="Program &Mode"
-    TipsLabel="Select Row, Enter Comments and Click 'Done', or Click 'Cancel'."
-text: CommentsTxt="" | shown: CommentsBox | hidden: InstructionBox
-disabled: CommentNextButton EditMenu/* FileMenu/* ToolsMenu/*
+    TipsLabel="Select Row, Enter Comments and Click 'Done', or Click 'Cancel'." | shown: CommentsBox
+hidden: InstructionBox
+disabled: CommentNextButton DefaultCommentButton EditMenu/* FileMenu/* ToolsMenu/*
 > cell Table1 30 4 ; click CommentDoneButton ; click EntryMode ; changes
 session: PanelState=1 ClickedRow=30 | Table1 colors 31,4=own
 caption: EntryMode="Data &Mode" TipsLabel="Program Mode." | shown: InstructionBox

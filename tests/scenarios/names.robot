@@ -13,15 +13,15 @@ refused LabelAcceptButton disabled
 refused LabelAcceptButton disabled
 > changes
 text: LabelText="a" | enabled: LabelAcceptButton
-> type LabelText 0 ; changes ; type LabelText _ ; enter ; type LabelText 1 ; enter ; clear LabelText ; enter
+> type LabelText 0 ; changes ; type LabelText _ ; enter ; type LabelText 1 ; enter
 text: LabelText="a0"
 refused LabelAcceptButton disabled
 refused LabelAcceptButton disabled
+> clear LabelText ; enter ; type LabelText "z\xC3\xA9" ; enter ; clear LabelText
 refused LabelAcceptButton disabled
-> type LabelText "z\xC3\xA9" ; enter ; clear LabelText ; type LabelText "{a" ; enter
 refused LabelAcceptButton disabled
+> type LabelText "{a" ; enter ; clear LabelText ; type LabelText abcdefg ; enter ; changes
 refused LabelAcceptButton disabled
-> clear LabelText ; type LabelText abcdefg ; enter ; changes
 session: Cursor=2 PanelState=1 EntryPending=0 | StringTable 1="abcdef"
 Labels 0 "abcdef" "XXXX" "0" "0" "1" | Table1 1 - - "JMP  abcdef" "C3   XX   XX" default
 caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: LabelBox
@@ -50,19 +50,17 @@ Table1 3 - - "CALL  xx" "CD   XX   XX" default | 4 - - "IN" "DB"
 caption: TipsLabel="Enter 8-bit number and click 'Accept'." | text: XXCombo="z9z9z9" | shown: XXBox
 hidden: LabelBox XXDoneButton XXFindButton XXReplaceButton | disabled: XXAcceptButton XXCombo
 checked: NewXXOption | focus: XXText | default: XXAcceptButton
-> type XXText z9z9z9 ; click XXAcceptButton ; type XXText x ; enter ; changes
+> type XXText z9z9z9 ; click XXAcceptButton ; type XXText x ; enter
 box critical "String already present as Label or Variable. Please enter another string." ok -> ok
-session: Cursor=5 PanelState=1 LastLine=4 EntryPending=0 | StringTable 4="x" | Variables 1 "x" "XX"
-Table1 4 - - "IN   x" "DB   XX" default | caption: TipsLabel="Program Mode." | shown: InstructionBox
-hidden: XXBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 # Known names: the first one is offered each time; the choice makes the other input idle.
 > click INST 37 ; type LabelText q ; click ExistingLabelOption ; changes
-session: PanelState=4 EntryPending=1 SelectedInstruction=37 CurrentOpcode=195
+session: Cursor=5 PanelState=4 LastLine=4 SelectedInstruction=37 CurrentOpcode=195
+StringTable 4="x" | Variables 1 "x" "XX" | Table1 4 - - "IN   x" "DB   XX" default
 Table1 5 - - "JMP" "C3" | caption: TipsLabel="Enter Label and click 'Accept'." | shown: LabelBox
-hidden: InstructionBox | enabled: LabelAcceptButton LabelCombo
-disabled: EditMenu/* FileMenu/* LabelText ToolsMenu/* | checked: ExistingLabelOption
-unchecked: NewLabelOption | focus: LabelCombo | default: LabelAcceptButton
-> type LabelText r ; pick LabelCombo 1 ; click NewLabelOption ; click ExistingLabelOption ; changes
+hidden: XXBox | enabled: LabelAcceptButton LabelCombo | disabled: LabelText
+checked: ExistingLabelOption | unchecked: NewLabelOption | focus: LabelCombo
+default: LabelAcceptButton
+> type LabelText r ; pick LabelCombo 1 ; click NewLabelOption ; click ExistingLabelOption
 refused LabelText disabled
 > pick LabelCombo 1 ; enter ; click INST 38 ; escape ; click INST 48 ; type XXText q
 > click ExistingXXOption ; pick XXCombo 1 ; click NewXXOption ; changes
@@ -70,10 +68,7 @@ session: Cursor=6 PanelState=2 LastLine=5 SelectedInstruction=48 CurrentOpcode=2
 StringTable 5="xx" | Table1 5 - - "JMP  xx" "C3   XX   XX" default | 6 - - "OUT" "D3"
 caption: TipsLabel="Enter 8-bit number and click 'Accept'." | text: XXCombo="x" | shown: XXBox
 hidden: LabelBox | focus: XXText | default: XXAcceptButton
-> click ExistingXXOption ; pick XXCombo 1 ; enter ; changes
-session: Cursor=7 PanelState=1 EntryPending=0 | StringTable 6="x"
-Table1 6 - - "OUT   x" "D3   XX" default | caption: TipsLabel="Program Mode."
-shown: InstructionBox | hidden: XXBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+> click ExistingXXOption ; pick XXCombo 1 ; enter
 # A name whose number is known gives its bytes at once.
 > click PlaceLabelTool ; cell Table1 4 0 ; click ExistingPlaceOption ; pick PlaceCombo 1 ; enter
 > escape ; click AssignAddress ; settle ; click EqtOption ; click RenumberDialog.VariablesOption
@@ -81,11 +76,14 @@ open RenumberDialog
 > cell RenumberDialog.VariableTable 2 0 ; key RenumberDialog.XXAcceptButton 0f ; enter
 > click RenumberDialog.DoneButton ; cell Table1 7 2 ; row "JPO xx" "CPI x" ; changes
 closed RenumberDialog
-session: Cursor=9 LastLine=8 SelectionAnchor=7 ClickedRow=4 SelectedInstruction=36 CurrentOpcode=254
-LastAddressList 0="800E" | StringTable 7="xx" 8="x" | Labels 1 - "8008" "4" "1" | Variables 1 - "0F"
-Table1 1 - "8000" | 2 - "8003" | 3 - "8005" - "CD   08   80" | 4 "xx" "8008" - "DB   0F"
-Table1 5 - "800A" - "C3   08   80" | 6 - "800D" - "D3   0F" | 7 - - "JPO  xx" "E2   08   80" default
-Table1 8 - - "CPI   x" "FE   0F" default
+session: Cursor=9 PanelState=1 LastLine=8 EntryPending=0 SelectionAnchor=7 ClickedRow=4
+    SelectedInstruction=36 CurrentOpcode=254 | LastAddressList 0="800E"
+StringTable 6="x" 7="xx" 8="x" | Labels 1 - "8008" "4" "1" | Variables 1 - "0F" | Table1 1 - "8000"
+Table1 2 - "8003" | 3 - "8005" - "CD   08   80" | 4 "xx" "8008" - "DB   0F"
+Table1 5 - "800A" - "C3   08   80" | 6 - "800D" "OUT   x" "D3   0F" default
+Table1 7 - - "JPO  xx" "E2   08   80" default | 8 - - "CPI   x" "FE   0F" default
+caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: XXBox
+enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 # Overwritten rows leave their names behind until they are cleared away; the others keep their
 # order. A label counts as used by a row of three bytes, as placed on any row but an origin; a
 # variable as used by a row of two bytes. The box comes in any case.
@@ -131,19 +129,17 @@ focus: PlaceCombo
 session: ClickedRow=2 | Labels 1 - - "2" "1" | Table1 2 "sub" | enabled: PlaceText
 disabled: PlaceCombo | checked: NewPlaceOption | unchecked: ExistingPlaceOption | focus: PlaceText
 # A known label that stands elsewhere: No leaves both rows as they were, Yes moves it.
-> cell Table1 6 0 ; click ExistingPlaceOption ; answer no ; enter ; changes
-session: ClickedRow=6 | Labels 0 - - "6" "1" | Table1 6 "loop"
-> cell Table1 6 0 ; click ExistingPlaceOption ; answer yes ; enter ; changes
+> cell Table1 6 0 ; click ExistingPlaceOption ; answer no ; enter ; cell Table1 6 0
+> click ExistingPlaceOption ; answer yes ; enter ; changes
 box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> no
-session: MessageResult="7"
+session: ClickedRow=6 MessageResult="7" | Labels 0 - - "6" "1" | Table1 6 "loop"
 # An occupied cell: No leaves it, Yes puts the new label over the old, which stays in the lists.
-> cell Table1 2 0 ; type PlaceText new ; answer no ; enter ; changes
+> cell Table1 2 0 ; type PlaceText new ; answer no ; enter ; cell Table1 2 0 ; type PlaceText new
 box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> yes
-session: ClickedRow=2 MessageResult="6" | PlaceCombo 3="new" | Labels 1 - - "0" "0"
-Labels 3 "new" "XXXX" "2" "1" "0" | Table1 2 "new"
-> cell Table1 2 0 ; type PlaceText new ; answer yes ; enter ; changes
+> answer yes ; enter ; changes
 box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> no
-session: MessageResult="7"
+session: ClickedRow=2 | PlaceCombo 3="new" | Labels 1 - - "0" "0" | 3 "new" "XXXX" "2" "1" "0"
+Table1 2 "new"
 # A label over another: two questions, the cell first. A No to either leaves both rows.
 > cell Table1 2 0 ; click ExistingPlaceOption ; answer yes ; answer no ; enter ; cell Table1 2 0
 box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> yes

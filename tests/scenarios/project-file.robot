@@ -20,34 +20,32 @@ dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.txt"
 session: FileOrigin=3 FileChanged=0 FileName="program.txt" ProjectPath="program.baf"
 Table1 1..3 - ""
 caption: ProgrammingPanel="Brelvanor Quilla - program.txt" TipsLabel="File Saved."
-> row NOP ; click SaveFile ; changes
-session: Cursor=5 LastLine=4 SelectedInstruction=78 CurrentOpcode=0
-Table1 4 - - "NOP" "00" default
+> row NOP ; click SaveFile
 # The same file opened has the same rows and strings; what the lists say of labels comes later.
 > path program.baf ; click OpenFile ; changes
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.baf"
-session: Cursor=1 LastLine=1 FileOrigin=2 FileName="program.baf" | LabelLineList count=0
-LabelPlacedList count=0 | LabelUsedList count=0 | LastAddressList count=0
+session: Cursor=1 LastLine=1 FileOrigin=2 SelectedInstruction=78 CurrentOpcode=0
+    FileName="program.baf" | LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0
+LastAddressList count=0 | Table1 4 - - "NOP" "00" default
 caption: ProgrammingPanel="Brelvanor Quilla - program.baf" TipsLabel="File Opened."
 > click FindLabel ; escape ; changes
 session: LastLine=3 | LabelLineList 0="3" | LabelPlacedList 0="1" | LabelUsedList 0="1"
 caption: TipsLabel="Program Mode."
 # A path too short, a folder that is not there, a folder in place of a file: all cannot be saved.
-> row RIM ; path abc ; click SaveAsFile ; changes
+> row RIM ; path abc ; click SaveAsFile ; path absent/new.baf ; click SaveAsFile ; click SaveFile
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "abc"
+box critical "Unable to save file." ok -> ok
+dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "absent/new.baf"
+box critical "Unable to save file." ok -> ok
+box critical "Unable to save file." ok -> ok
+> path folder.txt ; click SaveAsFile ; changes
+dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "folder.txt"
 box critical "Unable to save file." ok -> ok
 session: Cursor=2 FileChanged=1 SelectedInstruction=74 CurrentOpcode=32
     SavedCells(2)="MVI  A,   count" SavedCells(3)="3E   XX"
     SavedCells(4)="Move the equivalent of 'count' into Accumulator." SavedCells(5)="count"
-    FileName="abc" ProjectPath="abc" MessageResult="1" | StringTable 1="" | Table1 1 - - "RIM" "20"
-> path absent/new.baf ; click SaveAsFile ; click SaveFile ; path folder.txt ; click SaveAsFile
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "absent/new.baf"
-box critical "Unable to save file." ok -> ok
-box critical "Unable to save file." ok -> ok
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "folder.txt"
-box critical "Unable to save file." ok -> ok
-> changes
-session: FileName="folder.txt" ProjectPath="folder.baf"
+    FileName="folder.txt" ProjectPath="folder.baf" MessageResult="1" | StringTable 1=""
+Table1 1 - - "RIM" "20"
 # The changes stay unsaved, so the next command asks. Yes saves first, and ends if that fails.
 > answer yes ; click OpenFile ; answer cancel ; click OpenFile ; answer no ; nopath
 box question "Save changes to folder.txt?" yesnocancel -> yes

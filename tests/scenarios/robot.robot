@@ -46,7 +46,7 @@ refused OpenForm.VersionLabel hidden
 > dump ProgrammingPanel.Table1 30 99 ; dump Table1 -5 0 ; dump Table1 1 0 ; list XXCombo
 Table1 0 "Origin" "8000" "" "" ""
 XXCombo 0 "x"
-> list LabelCombo ; colors Table1 ; state
+> list LabelCombo ; colors Table1
 LabelCombo empty
 Table1 0 0 back=E0E0E0 fore=-
 Table1 0 1 back=E0E0E0 fore=-
@@ -54,24 +54,6 @@ Table1 0 2 back=E0E0E0 fore=-
 Table1 0 3 back=E0E0E0 fore=-
 Table1 0 4 back=E0E0E0 fore=-
 Table1 2 2 back=cursor fore=cursor
-PanelState 1
-CurrentRow 2
-LastLine 1
-Rows 32
-FileOrigin 1
-FileChanged 1
-EntryPending 0
-SelectionTop 2
-SelectionBottom 2
-PortOpen 0
-AddressError 0
-FileName "Pgm1.baf"
-EntryMode "Data &Mode"
-WriteModeLabel "Overwrite"
-TipsLabel "Program Mode."
-Title "Brelvanor Quilla - Pgm1.baf"
-MessageResult ""
-Boxes InstructionBox
 # A box with a choice and no answer is cancelled; the panel closes by its frame.
 > close ProgrammingPanel ; answer yes ; close ProgrammingPanel ; answer ok ; close ProgrammingPanel
 box question "Are you sure you want to quit? You will lose unsaved information." okcancel -> cancel

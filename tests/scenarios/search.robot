@@ -64,24 +64,21 @@ caption: TipsLabel="Completed searching for 'count'." | text: XXCombo="count" XX
 shown: XXBox | hidden: InstructionBox XXAcceptButton XXReplaceButton
 disabled: EditMenu/* ExistingXXOption FileMenu/* NewXXOption ToolsMenu/* XXText
 checked: NewXXOption | focus: XXText | default: XXFindButton
-> pick XXCombo 1 ; click XXFindButton ; pick XXCombo 2 ; click XXFindButton ; changes
+> pick XXCombo 1 ; click XXFindButton ; pick XXCombo 2 ; click XXFindButton
 box information "The variable 'port' is used 1 time in the program." ok -> ok
 box information "The variable 'mask' is not used in the program." ok -> ok
-Table1 colors 1..2,2=own | caption: TipsLabel="Completed searching for 'mask'."
-text: XXCombo="mask"
 # Done takes the marks off; so does Esc.
-> pick XXCombo 1 ; enter ; click XXDoneButton ; changes
+> pick XXCombo 1 ; enter ; click XXDoneButton ; click FindVariable ; enter ; escape ; changes
 box information "The variable 'port' is used 1 time in the program." ok -> ok
-session: PanelState=1 | caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: XXBox
-enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
-> click FindVariable ; enter ; escape ; changes
 box information "The variable 'count' is used 2 times in the program." ok -> ok
+session: PanelState=1 | Table1 colors 1..2,2=own | caption: TipsLabel="Program Mode."
+shown: InstructionBox | hidden: XXBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 # The replace box: candidates are the operands of two-byte rows. Clicks select; the operand of a label can be selected first, a label not.
 > click ReplaceVariable ; type XXText 9x ; clear XXText ; type XXText total ; changes
 session: PanelState=33 | Table1 colors 1..3,2=0000FF/FFFFFF | caption: TipsLabel=""
-text: XXCombo="count" XXText="total" | shown: XXBox XXReplaceButton
-hidden: InstructionBox XXFindButton | enabled: ExistingXXOption NewXXOption XXText
-disabled: EditMenu/* FileMenu/* ToolsMenu/* XXCombo | default: XXReplaceButton
+text: XXText="total" | shown: XXBox XXReplaceButton | hidden: InstructionBox XXFindButton
+enabled: ExistingXXOption NewXXOption XXText | disabled: EditMenu/* FileMenu/* ToolsMenu/* XXCombo
+default: XXReplaceButton
 > cell Table1 4 2 ; changes
 session: PanelState=34 SelectionAnchor=4 | Table1 colors 4,2=00FF00/000000
 > cell Table1 4 2 ; cell Table1 1 2 ; cell Table1 1 0 ; cell Table1 2 2 ; cell Table1 2 2
@@ -152,9 +149,8 @@ session: PanelState=24
 > cell Table1 5 0 ; cell Table1 1 2 ; cell Table1 7 1 ; changes
 session: SelectionAnchor=1 | Table1 colors 3,2=00FF00/000000 5,0=00FF00/000000 7,2=00FF00/000000
 # A new name: the spelling decides. The first selected label takes it, and all selected operands.
-> type ReplaceText 1st ; clear ReplaceText ; type ReplaceText Big ; changes
-text: ReplaceText="Big"
-> clear ReplaceText ; type ReplaceText newlabel ; changes
+> type ReplaceText 1st ; clear ReplaceText ; type ReplaceText Big ; clear ReplaceText
+> type ReplaceText newlabel ; changes
 text: ReplaceText="newlab" | enabled: ReplaceAcceptButton | default: ReplaceAcceptButton
 > enter ; changes
 session: PanelState=23 | ReplaceCombo 3="newlab" | StringTable 3="newlab" 7="newlab"

@@ -1,86 +1,4 @@
-== delay loop
-# Three turns and a halt. The window opens a moment after the click; the tip stays.
-> row "MVI B,count" "DCR B" "JNZ loop" HLT ; click PlaceLabelTool ; cell Table1 2 0
-> click ExistingPlaceOption ; click PlaceAcceptButton ; click PlaceDoneButton ; click EqtOption
-open RenumberDialog
-> click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
-> key RenumberDialog.XXAcceptButton 3 ; click RenumberDialog.XXAcceptButton
-> click RenumberDialog.DoneButton ; click SimulationView ; tick 9 ; changes
-closed RenumberDialog
-session: Cursor=5 LastLine=4 FileChanged=1 ClickedRow=2 SelectedInstruction=79 CurrentOpcode=118
-LastAddressList 0="8006" | StringTable 1="count" 3="loop" | Labels 0 "loop" "8002" "2" "1" "1"
-Variables 0 "count" "03" | Table1 1 - "8000" "MVI  B,   count" "06   03" default
-Table1 2 "loop" "8002" "DCR  B" "05" default | 3 - "8003" "JNZ  loop" "C2   02   80" default
-Table1 4 - "8006" "HLT" "76" default | caption: TipsLabel="Program Mode."
-> tick 1 ; changes
-open WatchWindowDialog
-WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode"
-WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
-WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
-WatchWindowDialog.InterruptTable 7 - "1" | WatchWindowDialog.MemoryTable rows=65537
-WatchWindowDialog.MemoryTable 0 "Address" "Value" | 1..32768 "0000".."7FFF" "00" | 32769 "8000" "06"
-WatchWindowDialog.MemoryTable 32770 "8001" "03" | 32771 "8002" "05" | 32772 "8003" "C2"
-WatchWindowDialog.MemoryTable 32773 "8004" "02" | 32774 "8005" "80" | 32775 "8006" "76"
-WatchWindowDialog.MemoryTable 32776..65536 "8007".."FFFF" "00"
-WatchWindowDialog.PortTable rows=257 | 0 "Address" "Value" | 1..256 "00".."FF" "00"
-WatchWindowDialog.RegisterTable rows=20 | 0 "Registers" "Value" | 1 "A" "00" | 2 "B" "00"
-WatchWindowDialog.RegisterTable 3 "C" "00" | 4 "BC" "0000" | 5 "D" "00" | 6 "E" "00" | 7 "DE" "0000"
-WatchWindowDialog.RegisterTable 8 "H" "00" | 9 "L" "00" | 10 "HL" "0000" | 11 "M(0000)" "00"
-WatchWindowDialog.RegisterTable 12 "SP" "FF00" | 13 "PC" "0000" | 14 "Zero" "0" | 15 "Sign" "0"
-WatchWindowDialog.RegisterTable 16 "Parity" "0" | 17 "Carry" "0" | 18 "Aux. Carry" "0"
-WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
-caption: TipsLabel="Preparing for simulation..." WatchWindowDialog.AddrLbl="0000"
-text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00"
-focus: WatchWindowDialog.AcceptButton
-# Nothing is there to step before a starting address is given.
-> click WatchWindowDialog.ExecuteButton ; changes
-caption: WatchWindowDialog.StepNoteLabel="Enter a starting address and press OK."
-# The loop, step by step; PC shows the next instruction.
-> key WatchWindowDialog.AcceptButton 8000 ; click WatchWindowDialog.AcceptButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8000" "MVI  B,   03h" "06   03"
-WatchWindowDialog.RegisterTable 13 - "8000"
-caption: WatchWindowDialog.AddrLbl="8000" WatchWindowDialog.StepNoteLabel=""
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
-WatchWindowDialog.RegisterTable 2 - "03" | 4 - "0300" | 13 - "8002"
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
-WatchWindowDialog.RegisterTable 2 - "02" | 4 - "0200" | 13 - "8003"
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
-WatchWindowDialog.RegisterTable 13 - "8002"
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8006" "HLT" "76" | WatchWindowDialog.RegisterTable 2 - "00"
-WatchWindowDialog.RegisterTable 4 - "0000" | 13 - "8006" | 14 - "1" | 16 - "1"
-# The halt is told once, and nothing moves after it, a new starting address included.
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
-box information "Program execution halted." ok -> ok
-session: MessageResult="1"
-> key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
-WatchWindowDialog.RegisterTable 13 - "8002" | caption: WatchWindowDialog.AddrLbl="8002"
-# Chosen again while it is open, the window keeps all but the cells of the program.
-> click SimulationView ; settle ; changes
-# Closed and opened again it starts afresh.
-> press WatchWindowDialog.IButton 1 ; pick WatchWindowDialog.ValueList 7
-> click WatchWindowDialog.ForceButton ; changes
-WatchWindowDialog.PortTable 1 - "07" | caption: WatchWindowDialog.IButton 1="1"
-text: WatchWindowDialog.ValueList="07"
-> close WatchWindowDialog ; click SimulationView ; settle ; changes
-closed WatchWindowDialog
-open WatchWindowDialog
-WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.PortTable 1 - "00"
-WatchWindowDialog.RegisterTable 13 - "0000" | 14 - "0" | 16 - "0"
-caption: WatchWindowDialog.AddrLbl="0000" WatchWindowDialog.IButton 1="0"
-text: WatchWindowDialog.ValueList="00"
-> key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
-WatchWindowDialog.RegisterTable 2 - "FF" | 4 - "FF00" | 13 - "8003" | 15..16 - "1" | 18 - "1"
-caption: WatchWindowDialog.AddrLbl="8002"
-== the end of memory
+== simulator
 # A row past FFFFh gets no address: the fill ends there and the window stays hidden.
 > click EntryMode ; click NewOrigin ; key NumberAcceptButton FFFE ; enter ; key DataAcceptButton C3
 > enter ; enter ; key DataAcceptButton 76 ; enter ; click SimulationView ; settle ; changes
@@ -124,7 +42,80 @@ focus: WatchWindowDialog.AcceptButton
 WatchWindowDialog.InstructionTable 1 - "0000" "NOP" "00"
 WatchWindowDialog.RegisterTable 13 - "0000"
 caption: WatchWindowDialog.AddrLbl="FFFF" WatchWindowDialog.StepNoteLabel=""
-== ports and lines
+> close WatchWindowDialog ; click EntryMode ; answer no ; click NewFile
+closed WatchWindowDialog
+box question "Save changes to Pgm1.baf?" yesnocancel -> no
+# Three turns and a halt. The window opens a moment after the click; the tip stays.
+> row "MVI B,count" "DCR B" "JNZ loop" HLT ; click PlaceLabelTool ; cell Table1 2 0
+> click ExistingPlaceOption ; click PlaceAcceptButton ; click PlaceDoneButton ; click EqtOption
+open RenumberDialog
+> click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
+> key RenumberDialog.XXAcceptButton 3 ; click RenumberDialog.XXAcceptButton
+> click RenumberDialog.DoneButton ; click SimulationView ; tick 9 ; tick 1 ; changes
+closed RenumberDialog
+open WatchWindowDialog
+session: Selection=5 PanelState=1 CurrentRow=5 LastLine=4 SelectionAnchor=0 ClickedRow=2
+    SelectedInstruction=79 CurrentOpcode=118 MessageResult="7"
+LastAddressList count=1 (1 out at 0) 0="8006" | OriginList count=1
+StringTable rows=32 (1 out at 1) 1="count" 3="loop" | Labels 0 "loop" "8002" "2" "1" "1"
+Variables 0 "count" "03" | Table1 rows=32 (1 out at 1)
+Table1 1 "" "8000" "MVI  B,   count" "06   03" default | 2 "loop" "8002" "DCR  B" "05"
+Table1 3 - "8003" "JNZ  loop" "C2   02   80" | 4 - "8006" "HLT" "76" default
+WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.MemoryTable 32769 - "06"
+WatchWindowDialog.MemoryTable 32770 - "03" | 32771 - "05" | 32772 - "C2" | 32773 - "02"
+WatchWindowDialog.MemoryTable 32774 - "80" | 32775 - "76" | 65535 - "00"
+Table1 colors 1,0..4=own 5,2=cursor
+caption: EntryMode="Data &Mode" WatchWindowDialog.AddrLbl="0000" | shown: InstructionBox
+hidden: DataBox
+# Nothing is there to step before a starting address is given.
+> click WatchWindowDialog.ExecuteButton ; changes
+caption: WatchWindowDialog.StepNoteLabel="Enter a starting address and press OK."
+# The loop, step by step; PC shows the next instruction.
+> key WatchWindowDialog.AcceptButton 8000 ; click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+WatchWindowDialog.RegisterTable 2 - "03" | 4 - "0300" | 13 - "8002"
+caption: WatchWindowDialog.AddrLbl="8000" WatchWindowDialog.StepNoteLabel=""
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
+WatchWindowDialog.RegisterTable 2 - "02" | 4 - "0200" | 13 - "8003"
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+WatchWindowDialog.RegisterTable 13 - "8002"
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8006" "HLT" "76" | WatchWindowDialog.RegisterTable 2 - "00"
+WatchWindowDialog.RegisterTable 4 - "0000" | 13 - "8006" | 14 - "1" | 16 - "1"
+# The halt is told once, and nothing moves after it, a new starting address included.
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+box information "Program execution halted." ok -> ok
+session: MessageResult="1"
+> key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+WatchWindowDialog.RegisterTable 13 - "8002" | caption: WatchWindowDialog.AddrLbl="8002"
+# Chosen again while it is open, the window keeps all but the cells of the program.
+> click SimulationView ; settle ; changes
+# Closed and opened again it starts afresh.
+> press WatchWindowDialog.IButton 1 ; pick WatchWindowDialog.ValueList 7
+> click WatchWindowDialog.ForceButton ; changes
+WatchWindowDialog.PortTable 1 - "07" | caption: WatchWindowDialog.IButton 1="1"
+text: WatchWindowDialog.ValueList="07"
+> close WatchWindowDialog ; click SimulationView ; settle ; changes
+closed WatchWindowDialog
+open WatchWindowDialog
+WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.PortTable 1 - "00"
+WatchWindowDialog.RegisterTable 13 - "0000" | 14 - "0" | 16 - "0"
+caption: WatchWindowDialog.AddrLbl="0000" WatchWindowDialog.IButton 1="0"
+text: WatchWindowDialog.ValueList="00"
+> key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
+WatchWindowDialog.RegisterTable 2 - "FF" | 4 - "FF00" | 13 - "8003" | 15..16 - "1" | 18 - "1"
+caption: WatchWindowDialog.AddrLbl="8002"
+> close WatchWindowDialog ; answer no ; click NewFile
+closed WatchWindowDialog
+box question "Save changes to Pgm1.baf?" yesnocancel -> no
 # An invalid opcode warns whenever it is shown, and runs as NOP.
 > row "IN p" CMA "OUT q" "MVI A,m" SIM EI "MVI A,n" SIM RIM DI ; click EntryMode
 > key DataAcceptButton 08 ; enter ; key DataAcceptButton F5 ; enter ; click EqtOption
@@ -137,37 +128,22 @@ open RenumberDialog
 closed RenumberDialog
 > click SimulationView ; settle ; changes
 open WatchWindowDialog
-session: Cursor=13 PanelState=29 LastLine=11 FileChanged=1 SelectedInstruction=72 CurrentOpcode=243
-LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n" | Variables 0 "p" "05" | 1 "q" "06"
-Variables 2 "m" "1D" | 3 "n" "0A" | Table1 1 - "8000" "IN   p" "DB   05" default
-Table1 2 - "8002" "CMA" "2F" default | 3 - "8003" "OUT   q" "D3   06" default
-Table1 4 - "8005" "MVI  A,   m" "3E   1D" default | 5 - "8007" "SIM" "30" default
+session: Cursor=13 PanelState=29 LastLine=11 SelectedInstruction=72 CurrentOpcode=243
+    MessageResult="7" | LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n"
+Labels count=0 | Variables count=4 (3 in at 0) | 0 "p" "05" | 1 "q" "06" | 2 "m" "1D" | 3 "n" "0A"
+Table1 1 - - "IN   p" "DB   05" | 2 "" - "CMA" "2F" | 3 - - "OUT   q" "D3   06"
+Table1 4 - "8005" "MVI  A,   m" "3E   1D" | 5 - "8007" "SIM" "30" default
 Table1 6 - "8008" "EI" "FB" default | 7 - "8009" "MVI  A,   n" "3E   0A" default
 Table1 8 - "800B" "SIM" "30" default | 9 - "800C" "RIM" "20" default | 10 - "800D" "DI" "F3" default
 Table1 11 - "800E" "DFB" "08" default | 12 - "800F" "DFB" "F5" default
-WatchWindowDialog.InstructionTable rows=2 | 0 "Label" "Addr." "Mnemonics" "Opcode"
-WatchWindowDialog.InterruptTable rows=8 | 0 "Interrupts" "Value" | 1 "TRAP" "1" | 2 "RST 7.5" "1"
-WatchWindowDialog.InterruptTable 3 "RST 6.5" "1" | 4 "RST 5.5" "1" | 5 "INTR" "1" | 6 "INTA'" "1"
-WatchWindowDialog.InterruptTable 7 - "1" | WatchWindowDialog.MemoryTable rows=65537
-WatchWindowDialog.MemoryTable 0 "Address" "Value" | 1..32768 "0000".."7FFF" "00" | 32769 "8000" "DB"
-WatchWindowDialog.MemoryTable 32770 "8001" "05" | 32771 "8002" "2F" | 32772 "8003" "D3"
-WatchWindowDialog.MemoryTable 32773 "8004" "06" | 32774 "8005" "3E" | 32775 "8006" "1D"
-WatchWindowDialog.MemoryTable 32776 "8007" "30" | 32777 "8008" "FB" | 32778 "8009" "3E"
-WatchWindowDialog.MemoryTable 32779 "800A" "0A" | 32780 "800B" "30" | 32781 "800C" "20"
-WatchWindowDialog.MemoryTable 32782 "800D" "F3" | 32783 "800E" "08" | 32784 "800F" "F5"
-WatchWindowDialog.MemoryTable 32785..65536 "8010".."FFFF" "00"
-WatchWindowDialog.PortTable rows=257 | 0 "Address" "Value" | 1..256 "00".."FF" "00"
-WatchWindowDialog.RegisterTable rows=20 | 0 "Registers" "Value" | 1 "A" "00" | 2 "B" "00"
-WatchWindowDialog.RegisterTable 3 "C" "00" | 4 "BC" "0000" | 5 "D" "00" | 6 "E" "00" | 7 "DE" "0000"
-WatchWindowDialog.RegisterTable 8 "H" "00" | 9 "L" "00" | 10 "HL" "0000" | 11 "M(0000)" "00"
-WatchWindowDialog.RegisterTable 12 "SP" "FF00" | 13 "PC" "0000" | 14 "Zero" "0" | 15 "Sign" "0"
-WatchWindowDialog.RegisterTable 16 "Parity" "0" | 17 "Carry" "0" | 18 "Aux. Carry" "0"
-WatchWindowDialog.InterruptTable colors 1,0=00FF00 2..5,0=0000FF
-caption: EntryMode="Program &Mode" TipsLabel="Preparing for simulation..."
-    WatchWindowDialog.AddrLbl="0000"
-text: WatchWindowDialog.PortAddrList="00" WatchWindowDialog.ValueList="00" | shown: DataBox
-hidden: InstructionBox | focus: DataAcceptButton WatchWindowDialog.AcceptButton
-default: DataAcceptButton
+WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.MemoryTable 32769 - "DB"
+WatchWindowDialog.MemoryTable 32770 - "05" | 32771 - "2F" | 32772 - "D3" | 32773 - "06"
+WatchWindowDialog.MemoryTable 32774 - "3E" | 32775 - "1D" | 32776 - "30" | 32777 - "FB"
+WatchWindowDialog.MemoryTable 32778 - "3E" | 32779 - "0A" | 32780 - "30" | 32781 - "20"
+WatchWindowDialog.MemoryTable 32782 - "F3" | 32783 - "08" | 32784 - "F5"
+WatchWindowDialog.RegisterTable 2 - "00" | 4 - "0000" | 13 - "0000" | 15..16 - "0" | 18 - "0"
+caption: EntryMode="Program &Mode" WatchWindowDialog.AddrLbl="0000" | shown: DataBox
+hidden: InstructionBox
 # A forced value comes in at one port and goes out, complemented, at the other.
 > pick WatchWindowDialog.PortAddrList 5 ; pick WatchWindowDialog.ValueList 60
 > click WatchWindowDialog.ForceButton ; key WatchWindowDialog.AcceptButton 8000

@@ -116,10 +116,7 @@ refused EntryMode disabled
 session: PanelState=9 EntryPending=1 SelectedInstruction=0 CurrentOpcode=64 | Table1 3 - - "MOV"
 caption: WriteModeLabel="Insert" | shown: RegisterBox | hidden: InstructionBox TipsBox
 disabled: EditMenu/* FileMenu/* ToolsMenu/* | focus: RegisterBox
-> click WriteModeLabel ; click TipsOption ; escape ; changes
-session: PanelState=1 EntryPending=0 | Table1 3 - - "" | caption: WriteModeLabel="Overwrite"
-shown: InstructionBox TipsBox | hidden: RegisterBox
-enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+> click WriteModeLabel ; click TipsOption ; escape
 == new file
 # A new file asks about changes that were not saved: Cancel keeps all, Yes saves first, and a save
 # that is given up keeps all as well.

@@ -23,10 +23,7 @@ constexpr std::size_t kAllThatHasArrived = 0;
 
 }  // namespace
 
-ProgrammingPanel::ProgrammingPanel(Outside& outside) : session_(outside) {
-  session_.menu.HideIdleEntries();
-  Form_Load();
-}
+ProgrammingPanel::ProgrammingPanel(Outside& outside) : session_(outside) { Form_Load(); }
 
 void ProgrammingPanel::Form_Load() {
   session_.CommPortNumber = kFirstPort;

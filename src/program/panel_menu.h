@@ -12,10 +12,6 @@ namespace quilla {
 struct PanelMenu {
   explicit PanelMenu(Form& the_form);
 
-  /// Takes every entry out of sight that has neither a handler nor a visible entry under it, so
-  /// that no entry is on view that does nothing.
-  void HideIdleEntries();
-
   Form& form;
 
   MenuEntry FileMenu{&form, "FileMenu", "&File"};

@@ -15,6 +15,10 @@ TEST(RowsTest, TablesKeepTenRowsAhead) {
     desk.rows.AddRows(row);
     EXPECT_EQ(desk.session.Table1.Rows(), rows) << row;
   }
+  desk.rows.SetRows(12);
+  desk.rows.AddRows(2);
+  EXPECT_EQ(desk.session.Table1.Rows(), 32);
+  desk.rows.SetRows(35);
   for (const auto& [row, rows] : {std::pair{19, 35}, {20, 30}, {3, 30}}) {
     desk.rows.DeleteRows(row);
     EXPECT_EQ(desk.session.StringTable.Rows(), rows) << row;

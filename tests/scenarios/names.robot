@@ -128,27 +128,35 @@ focus: PlaceCombo
 > pick PlaceCombo 1 ; cell Table1 2 4 ; enter ; changes
 session: ClickedRow=2 | Labels 1 - - "2" "1" | Table1 2 "sub" | enabled: PlaceText
 disabled: PlaceCombo | checked: NewPlaceOption | unchecked: ExistingPlaceOption | focus: PlaceText
+# Back to a new name with a row picked, the button waits for the next key.
+> cell Table1 1 0 ; click ExistingPlaceOption ; click NewPlaceOption ; changes
+session: PanelState=17 ClickedRow=1 | Table1 colors 1,0=00FF00
+> type PlaceText x ; clear PlaceText ; click ExistingPlaceOption ; enter ; changes
+session: PanelState=16 | Labels 0 - - "1" "1" | Table1 1 "loop" | colors 1,0=own
 # A known label that stands elsewhere: No leaves both rows as they were, Yes moves it.
 > cell Table1 6 0 ; click ExistingPlaceOption ; answer no ; enter ; cell Table1 6 0
+box question "The string 'loop' is already placed in line # 1. Do you want to reposition it to line # 6?" yesno -> no
 > click ExistingPlaceOption ; answer yes ; enter ; changes
-box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> no
-session: ClickedRow=6 MessageResult="7" | Labels 0 - - "6" "1" | Table1 6 "loop"
+box question "The string 'loop' is already placed in line # 1. Do you want to reposition it to line # 6?" yesno -> yes
+session: ClickedRow=6 MessageResult="6" | Labels 0 - - "6" | Table1 1 "" | 6 "loop"
 # An occupied cell: No leaves it, Yes puts the new label over the old, which stays in the lists.
 > cell Table1 2 0 ; type PlaceText new ; answer no ; enter ; cell Table1 2 0 ; type PlaceText new
-box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> yes
-> answer yes ; enter ; changes
 box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> no
+> answer yes ; enter ; changes
+box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> yes
 session: ClickedRow=2 | PlaceCombo 3="new" | Labels 1 - - "0" "0" | 3 "new" "XXXX" "2" "1" "0"
 Table1 2 "new"
 # A label over another: two questions, the cell first. A No to either leaves both rows.
 > cell Table1 2 0 ; click ExistingPlaceOption ; answer yes ; answer no ; enter ; cell Table1 2 0
 box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> yes
-box question "The string 'loop' is already placed in line # 6. Do you want to reposition it to line # 2?" yesno -> yes
+box question "The string 'loop' is already placed in line # 6. Do you want to reposition it to line # 2?" yesno -> no
 > click ExistingPlaceOption ; answer no ; enter ; changes
 box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> no
-Labels 0 - - "2" | 3 - - "0" "0" | Table1 2 "loop" | 6 ""
+session: MessageResult="7"
 > cell Table1 2 0 ; click ExistingPlaceOption ; answer yes ; answer yes ; enter ; changes
-box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> no
+box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> yes
+box question "The string 'loop' is already placed in line # 6. Do you want to reposition it to line # 2?" yesno -> yes
+session: MessageResult="6" | Labels 0 - - "2" | 3 - - "0" "0" | Table1 2 "loop" | 6 ""
 # A row that was picked once and is gone: the tool does not end until another row is picked.
 > click EntryMode ; click PlaceLabelTool ; cell Table1 31 0 ; escape ; drag Table1 20 2 29 2
 refused EntryMode disabled
@@ -159,8 +167,8 @@ session: SelectionAnchor=20 ClickedRow=31 | StringTable rows=22 | Table1 rows=22
 > cell Table1 5 0 ; click PlaceDoneButton ; path a.baf ; click SaveFile ; click PlaceLabelTool
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "a.baf"
 > cell Table1 2 0 ; type PlaceText y ; answer no ; enter ; click PlaceDoneButton ; changes
-box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> yes
+box question "A label is already present in the selected cell. Do you want to replace the existing label?" yesno -> no
 session: PanelState=1 FileOrigin=3 ClickedRow=2 FileName="a.baf" ProjectPath="a.baf"
-    MessageResult="6" | Labels 0 - - "0" "0" | 4 "y" "XXXX" "2" "1" "0" | Table1 2 "y"
+    MessageResult="7"
 caption: ProgrammingPanel="Brelvanor Quilla - a.baf" TipsLabel="Program Mode."
 shown: InstructionBox | hidden: PlaceBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*

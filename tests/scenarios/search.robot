@@ -32,13 +32,14 @@ box information "The label 'end' is used 1 time in the program." ok -> ok
 box information "The label 'loop' is used 3 times in the program." ok -> ok
 Table1 colors 2,2=own 3,0=FF0000/FFFFFF 3,2=FF0000/FFFFFF 4,2=FF0000/FFFFFF | text: FindCombo="loop"
 # Done takes the marks off; the rows of variables count too where they share the name.
-> click FindDoneButton ; click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText count ; enter
-> click ReplaceDoneButton ; click FindLabel ; pick FindCombo 4 ; enter ; escape ; changes
-box information "The label 'count' is used 2 times in the program." ok -> ok
-session: PanelState=1 SelectionAnchor=2 | StringTable 2="count" | Labels 1 - - - - "0"
-Labels 4 "count" "XXXX" "0" "0" "1" | Table1 2 - - "CALL  count"
-Table1 colors 1,2=FF0000/FFFFFF 3,0=own 3,2=own 4,2=own | caption: TipsLabel="Program Mode."
+> click FindDoneButton ; changes
+session: PanelState=1 | Table1 colors 3,0=own 3,2=own 4,2=own | caption: TipsLabel="Program Mode."
 shown: InstructionBox | hidden: FindBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+> click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText count ; enter ; click ReplaceDoneButton
+> click FindLabel ; pick FindCombo 4 ; enter ; escape ; changes
+box information "The label 'count' is used 2 times in the program." ok -> ok
+session: SelectionAnchor=2 | StringTable 2="count" | Labels 1 - - - - "0"
+Labels 4 "count" "XXXX" "0" "0" "1" | Table1 2 - - "CALL  count" | colors 1,2=FF0000/FFFFFF
 == variables
 # Without variables both commands tell so and come back.
 > click FindVariable ; click ReplaceVariable ; changes

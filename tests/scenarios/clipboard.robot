@@ -59,6 +59,14 @@ EditTable 1 - - "JNZ  a1" | Table1 rows=36 (4 in at 1) | 1 "loop" - "DCR  B" "05
 Table1 2 - - "JNZ  a1" "C2   02   80" "Jump on no zero, to address pointed by 'loop'."
 Table1 3 - - "HLT" "76" default | 4 "Origin" "9000" | 9 "" | colors 4,0..4=E0E0E0
 caption: TipsLabel="Completed pasting."
+# A copy counts as a change.
+> path a.baf ; click SaveFile ; changes
+dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "a.baf"
+session: FileOrigin=3 FileChanged=0 FileName="a.baf" ProjectPath="a.baf"
+caption: ProgrammingPanel="Brelvanor Quilla - a.baf" TipsLabel="File Saved."
+> click CopyEdit ; changes
+session: FileChanged=1 | EditStringTable count=1 | EditTable rows=1 (3 out at 0) | 0 "" ""
+caption: TipsLabel="Completed copying."
 == strings
 # A row whose label means another address in this file gets a new name, in the clipboard as well.
 > row "JNZ loop" "MVI B,count" ; click PlaceLabelTool ; cell Table1 1 0 ; click ExistingPlaceOption

@@ -62,10 +62,14 @@ checked: ExistingLabelOption | unchecked: NewLabelOption | focus: LabelCombo
 default: LabelAcceptButton
 > type LabelText r ; pick LabelCombo 1 ; click NewLabelOption ; click ExistingLabelOption
 refused LabelText disabled
-> pick LabelCombo 1 ; enter ; click INST 38 ; escape ; click INST 48 ; type XXText q
-> click ExistingXXOption ; pick XXCombo 1 ; click NewXXOption ; changes
-session: Cursor=6 PanelState=2 LastLine=5 SelectedInstruction=48 CurrentOpcode=211
-StringTable 5="xx" | Table1 5 - - "JMP  xx" "C3   XX   XX" default | 6 - - "OUT" "D3"
+> pick LabelCombo 1 ; enter ; click INST 38 ; changes
+session: Cursor=6 LastLine=5 SelectedInstruction=38 CurrentOpcode=226 | StringTable 5="xx"
+Table1 5 - - "JMP  xx" "C3   XX   XX" default | 6 - - "JPO" "E2" | enabled: LabelText
+disabled: LabelAcceptButton LabelCombo | checked: NewLabelOption | unchecked: ExistingLabelOption
+focus: LabelText
+> escape ; click INST 48 ; type XXText q ; click ExistingXXOption ; pick XXCombo 1
+> click NewXXOption ; changes
+session: PanelState=2 SelectedInstruction=48 CurrentOpcode=211 | Table1 6 - - "OUT" "D3"
 caption: TipsLabel="Enter 8-bit number and click 'Accept'." | text: XXCombo="x" | shown: XXBox
 hidden: LabelBox | focus: XXText | default: XXAcceptButton
 > click ExistingXXOption ; pick XXCombo 1 ; enter

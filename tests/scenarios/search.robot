@@ -233,3 +233,21 @@ box critical "Compile error. There is more than one instance of the label '' in 
 session: PanelState=1 AddressError=-1 SelectionAnchor=1 MessageResult="1" | OriginList count=0
 Labels 1 "" - "1" | Table1 2 "" | colors 1,2=own | caption: TipsLabel="Assigning Addresses . . ."
 shown: InstructionBox | hidden: ReplaceBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+# On the first row, once it is no origin, a label stays selected beside another one: the first of
+# the two alone takes the new name.
+> escape ; answer no ; click NewFile ; click DeleteLabels ; cell Table1 0 0 ; escape ; row NOP
+box question "Save changes to Pgm1.baf?" yesnocancel -> no
+> click PlaceLabelTool ; cell Table1 0 0 ; type PlaceText zero ; enter ; cell Table1 1 0
+> type PlaceText one ; enter ; escape ; click ReplaceLabel ; cell Table1 0 0 ; cell Table1 1 0
+> changes
+session: Selection=2 PanelState=24 CurrentRow=2 LastLine=1 SelectionAnchor=0 ClickedRow=1
+    SelectedInstruction=78 CurrentOpcode=0 MessageResult="7" | ReplaceCombo 0="zero" 1="one"
+StringTable 1="" | Labels 0 "zero" - - - "0" | 1 "one" | Table1 0 "zero" | 1 "one" - "NOP" "00"
+Table1 2 - - "" "" "" | colors 0..1,0=00FF00/000000 2,0=own 2,2=cursor 3,2=own
+caption: TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
+text: ReplaceCombo="zero" | shown: ReplaceBox | hidden: InstructionBox
+disabled: EditMenu/* FileMenu/* ReplaceAcceptButton ToolsMenu/*
+> type ReplaceText both ; enter ; click ReplaceDoneButton ; changes
+session: PanelState=1 | Labels 2 "both" "XXXX" "0" "0" "0" | Table1 0 "both" | colors 0..1,0=own
+caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: ReplaceBox
+enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*

@@ -86,19 +86,8 @@ checked: PageOption 0 | unchecked: PageOption 1
 > click EntryMode ; click PrintComments ; show PrintCommentText ; click ClearComments ; show PrintCommentText
 PrintCommentText text="lost && found" enabled=1 visible=1
 PrintCommentText text="" enabled=1 visible=1
-> click PrintCommentCancelButton ; show TipsLabel ; answer ok ; click PrintFile ; tick 2040 ; settle
+> click PrintCommentCancelButton ; show TipsLabel
 TipsLabel caption="Data Mode." enabled=1 visible=1
-box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
-page PrintPanel "Pgm1.baf" "lost && found" 1 3
-line 0 "Origin" "8000" "" "" "" shade=0,1,2,3,4
-line 1 "loop" "8000" "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' into Accumulator." shade=0,2
-line 2 "" "8002" "JMP  loop" "C3   XX   XX" "Jump to address pointed by 'loop'." shade=2
-line 3 "" "8005" "HLT" "76" "Halt program execution." shade=-
-line 31 "" "8006" "NOP" "00" "No Operation." shade=-
-page PrintPanel "Pgm1.baf" "lost && found" 2 3
-line 0 "" "8007" "RET" "C9" "Return." shade=-
-page PrintLabelPanel "Pgm1.baf" "lost && found" 3 3
-line 0 "loop" "8000" "" "count" "XX" "" "" "" "" "" "" shade=-
 > click PrintComments ; enter ; click EntryMode ; changes
 caption: TipsLabel="Program Mode."
 # No strings, no page for them. A new file empties the box, not the comment of the pages.
@@ -132,7 +121,7 @@ line 1 "" "8000" "NOP" "00" "No Operation." shade=-
 open PrintInfo
 PrintInfo.EquivalentPagesLabel caption="1" enabled=1 visible=1
 closed PrintInfo
-> row "STA c" ; click ViewPrintInfo ; show PrintInfo.StringsLabel ; show PrintInfo.EquivalentPagesLabel ; close PrintInfo ; answer ok ; click PrintFile ; settle
+> row "STA c" ; click ViewPrintInfo ; show PrintInfo.StringsLabel ; show PrintInfo.EquivalentPagesLabel ; close PrintInfo ; click PageOption 1 ; answer ok ; click PrintFile ; settle
 open PrintInfo
 PrintInfo.StringsLabel caption="121" enabled=1 visible=1
 PrintInfo.EquivalentPagesLabel caption="2" enabled=1 visible=1
@@ -144,37 +133,6 @@ line 1 "" "8000" "JMP  a" "C3   XX   XX" "Jump to address pointed by 'a'." shade
 line 2 "" "8003" "CALL  b" "CD   XX   XX" "Call sub-routine pointed by 'b'." shade=2
 line 3 "" "8006" "ADI   v0" "C6   XX" "Add the equivalent of 'v0' to content of Accumulator." shade=2
 line 4 "" "8008" "STA  c" "32   XX   XX" "Store content of Accumulator in address pointed by 'c'." shade=2
-page PrintLabelPanel "Pgm1.baf" "" 2 3
-line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
-line 1 "v1" "XX" "" "v2" "XX" "" "v3" "XX" "" "v4" "XX" shade=-
-line 2 "v5" "XX" "" "v6" "XX" "" "v7" "XX" "" "v8" "XX" shade=-
-line 3 "v9" "XX" "" "v10" "XX" "" "v11" "XX" "" "v12" "XX" shade=-
-line 4 "v13" "XX" "" "v14" "XX" "" "v15" "XX" "" "v16" "XX" shade=-
-line 5 "v17" "XX" "" "v18" "XX" "" "v19" "XX" "" "v20" "XX" shade=-
-line 6 "v21" "XX" "" "v22" "XX" "" "v23" "XX" "" "v24" "XX" shade=-
-line 7 "v25" "XX" "" "v26" "XX" "" "v27" "XX" "" "v28" "XX" shade=-
-line 8 "v29" "XX" "" "v30" "XX" "" "v31" "XX" "" "v32" "XX" shade=-
-line 9 "v33" "XX" "" "v34" "XX" "" "v35" "XX" "" "v36" "XX" shade=-
-line 10 "v37" "XX" "" "v38" "XX" "" "v39" "XX" "" "v40" "XX" shade=-
-line 11 "v41" "XX" "" "v42" "XX" "" "v43" "XX" "" "v44" "XX" shade=-
-line 12 "v45" "XX" "" "v46" "XX" "" "v47" "XX" "" "v48" "XX" shade=-
-line 13 "v49" "XX" "" "v50" "XX" "" "v51" "XX" "" "v52" "XX" shade=-
-line 14 "v53" "XX" "" "v54" "XX" "" "v55" "XX" "" "v56" "XX" shade=-
-line 15 "v57" "XX" "" "v58" "XX" "" "v59" "XX" "" "v60" "XX" shade=-
-line 16 "v61" "XX" "" "v62" "XX" "" "v63" "XX" "" "v64" "XX" shade=-
-line 17 "v65" "XX" "" "v66" "XX" "" "v67" "XX" "" "v68" "XX" shade=-
-line 18 "v69" "XX" "" "v70" "XX" "" "v71" "XX" "" "v72" "XX" shade=-
-line 19 "v73" "XX" "" "v74" "XX" "" "v75" "XX" "" "v76" "XX" shade=-
-line 20 "v77" "XX" "" "v78" "XX" "" "v79" "XX" "" "v80" "XX" shade=-
-line 21 "v81" "XX" "" "v82" "XX" "" "v83" "XX" "" "v84" "XX" shade=-
-line 22 "v85" "XX" "" "v86" "XX" "" "v87" "XX" "" "v88" "XX" shade=-
-line 23 "v89" "XX" "" "v90" "XX" "" "v91" "XX" "" "v92" "XX" shade=-
-line 24 "v93" "XX" "" "v94" "XX" "" "v95" "XX" "" "v96" "XX" shade=-
-line 25 "v97" "XX" "" "v98" "XX" "" "v99" "XX" "" "v100" "XX" shade=-
-line 26 "v101" "XX" "" "v102" "XX" "" "v103" "XX" "" "v104" "XX" shade=-
-line 27 "v105" "XX" "" "v106" "XX" "" "v107" "XX" "" "v108" "XX" shade=-
-line 28 "v109" "XX" "" "v110" "XX" "" "v111" "XX" "" "v112" "XX" shade=-
-line 29 "v113" "XX" "" "v114" "XX" "" "v115" "XX" "" "v116" "XX" shade=-
 page PrintLabelPanel "Pgm1.baf" "" 3 3
 line 0 "v117" "XX" "" "" "" "" "" "" "" "" "" shade=-
 # Even pages alone with one page of listing: the equivalents on page 2 are the first sheet.
@@ -191,18 +149,9 @@ Table1 2 - "8003" "CALL  b" "CD   XX   XX" default | 3 - "8006" "ADI   v0" "C6  
 Table1 4 - "8008" "STA  c" "32   XX   XX" default
 caption: TipsLabel="Composing print information." | checked: PageOption 2 | unchecked: PageOption 0
 # An overflow in a later block goes unseen; in the first it stops the print, and the panel with it.
-> click NewOrigin ; key NumberAcceptButton FFFF ; click NumberAcceptButton ; row NOP NOP ; click PageOption 0
+> click NewOrigin ; key NumberAcceptButton FFFF ; click NumberAcceptButton ; row NOP NOP
 > answer ok ; click PrintFile ; settle
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
-page PrintPanel "Pgm1.baf" "" 1 2
-line 0 "Origin" "8000" "" "" "" shade=0,1,2,3,4
-line 1 "" "8000" "JMP  a" "C3   XX   XX" "Jump to address pointed by 'a'." shade=2
-line 2 "" "8003" "CALL  b" "CD   XX   XX" "Call sub-routine pointed by 'b'." shade=2
-line 3 "" "8006" "ADI   v0" "C6   XX" "Add the equivalent of 'v0' to content of Accumulator." shade=2
-line 4 "" "8008" "STA  c" "32   XX   XX" "Store content of Accumulator in address pointed by 'c'." shade=2
-line 5 "Origin" "FFFF" "" "" "" shade=0,1,2,3,4
-line 6 "" "" "NOP" "00" "No Operation." shade=-
-line 7 "" "" "NOP" "00" "No Operation." shade=-
 page PrintLabelPanel "Pgm1.baf" "" 2 2
 line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
 > cell Table1 0 0 ; key NumberAcceptButton FFF9 ; click NumberAcceptButton ; cell Table1 1 2
@@ -215,7 +164,6 @@ Table1 rows=33 (1 in at 0) | 0 "Origin" "FFF9" | 1 "" "FFF9" "JMP  a" "C3   XX  
 Table1 2 - "FFFC" "CALL  b" "CD   XX   XX" | 3 - "FFFF" "ADI   v0" "C6   XX"
 Table1 4 - "8008" "STA  c" "32   XX   XX" | 5 "Origin" "FFFF" "" "" "" | 6..7 - - "NOP" "00" default
 Table1 colors 0,0..4=E0E0E0 1,0..4=own 4,2=cursor 5,0..4=E0E0E0 6,2=own
-caption: TipsLabel="Print aborted." | disabled: ProgrammingPanel | checked: PageOption 0
-unchecked: PageOption 2
+caption: TipsLabel="Print aborted." | disabled: ProgrammingPanel
 refused QuitFile disabled
 refused ProgrammingPanel disabled

@@ -1,6 +1,7 @@
 // The program: the system with the desktop around it.
 #include <QApplication>
 
+#include "demo/show_me.h"
 #include "panel/quilla.h"
 #include "window/help.h"
 #include "window/qt_outside.h"
@@ -15,6 +16,10 @@ int main(int argc, char** argv) {
   outside.event_loop().on_made = [&](quilla::Form& form, QWidget& window) {
     help.AddTo(form, window);
   };
+  quilla::demo::ShowMe show_me(quilla, outside);
+  QObject::connect(
+      &help, &quilla::Help::DemonstrationChosen, &application,
+      [&show_me](const QString& name) { show_me.Begin(name); }, Qt::QueuedConnection);
   quilla.Start();
   const int result = QApplication::exec();
   outside.event_loop().DestroyWindows();

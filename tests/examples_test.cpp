@@ -23,9 +23,9 @@ namespace fs = std::filesystem;
 
 const fs::path kExamples = fs::path(QUILLA_SOURCE_DIR) / "examples";
 
-std::vector<std::string> Names() {
+std::vector<std::string> NamesIn(const char* folder) {
   std::vector<std::string> names;
-  for (const auto& file : fs::directory_iterator(kExamples / "src")) {
+  for (const auto& file : fs::directory_iterator(kExamples / folder)) {
     names.push_back(file.path().stem().string());
   }
   return names;
@@ -87,7 +87,17 @@ TEST_P(ExampleTest, AssemblesAndComesToItsResult) {
   EXPECT_GT(promises, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, testing::ValuesIn(Names()),
+TEST(DemonstrationTest, EveryOneCanBePlayedToItsEnd) {
+  for (const std::string& name : NamesIn("demos")) {
+    std::ifstream script(kExamples / "demos" / (name + ".robot"));
+    std::ostringstream transcript;
+    EXPECT_EQ(RunScript(script, transcript, transcript), kPlayed) << transcript.str();
+    EXPECT_EQ(transcript.str().find("refused"), std::string::npos) << transcript.str();
+    EXPECT_EQ(transcript.str().find("dialog"), std::string::npos) << "files are the user's";
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, testing::ValuesIn(NamesIn("src")),
                          [](const auto& example) { return example.param; });
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "platform/grid.h"
 #include "platform/text_box.h"
 #include "platform/text_list.h"
+#include "robot/answers.h"
 #include "robot/report.h"
 
 namespace quilla::robot {
@@ -85,7 +86,7 @@ Commands::Target<Type> Commands::TakeControlOf(Words& words, const char* type) {
 }
 
 bool Commands::MayUse(const std::string& name, const Control& control, bool is_inside) {
-  const Form* const modal = outside_.event_loop.modal();
+  const Form* const modal = surroundings_.modal();
   const char* reason = nullptr;
   if (!control.IsEnabled()) {
     reason = "disabled";
@@ -100,7 +101,7 @@ bool Commands::MayUse(const std::string& name, const Control& control, bool is_i
     transcript_ << "refused " << name << ' ' << reason << '\n';
     return false;
   }
-  outside_.event_loop.Use(*control.form());
+  surroundings_.Use(*control.form());
   return true;
 }
 
@@ -251,7 +252,7 @@ bool Commands::EnterName(const NameBox& box, const std::string& name) {
 }
 
 Form& Commands::ActiveWindow() {
-  Form* const active = outside_.event_loop.active();
+  Form* const active = surroundings_.active();
   return active == nullptr ? Panel() : *active;
 }
 
@@ -286,18 +287,18 @@ void Commands::Answer(Words& words) {
   words.End();
   const std::optional<BoxAnswer> answer = ButtonNamed(name);
   if (!answer) throw NotACommand("unknown button " + Quoted(name));
-  outside_.boxes.Queue(*answer);
+  surroundings_.QueueAnswer(*answer);
 }
 
 void Commands::Path(Words& words) {
   const std::string path = words.Take();
   words.End();
-  outside_.file_dialogs.Queue(path);
+  surroundings_.QueuePath(path);
 }
 
 void Commands::NoPath(Words& words) {
   words.End();
-  outside_.file_dialogs.Queue(std::nullopt);
+  surroundings_.QueuePath(std::nullopt);
 }
 
 void Commands::Port(Words& words) {
@@ -307,25 +308,25 @@ void Commands::Port(Words& words) {
   const std::optional<PortState> state = PortStateNamed(name);
   if (!state) throw NotACommand("unknown port state " + Quoted(name));
   if (number < 1 || number > ScriptedPort::kPorts) throw NotACommand("unknown port");
-  outside_.port.SetState(number, *state);
+  surroundings_.SetPortState(number, *state);
 }
 
 void Commands::Feed(Words& words) {
   const std::string bytes = words.Take();
   words.End();
-  outside_.port.Feed(bytes);
+  surroundings_.Feed(bytes);
 }
 
 void Commands::Tick(Words& words) {
   const int milliseconds = words.TakeNumber();
   words.End();
   if (milliseconds < 0) throw NotACommand("time does not run back");
-  outside_.clock.Pass(milliseconds);
+  surroundings_.Pass(milliseconds);
 }
 
 void Commands::Settle(Words& words) {
   words.End();
-  outside_.clock.PassAll();
+  surroundings_.PassAll();
 }
 
 void Commands::State(Words& words) {

@@ -12,16 +12,16 @@
 #include "robot/changes.h"
 #include "robot/hands.h"
 #include "robot/row_text.h"
-#include "robot/scripted_outside.h"
+#include "robot/surroundings.h"
 #include "robot/words.h"
 
 namespace quilla::robot {
 
 class Commands {
  public:
-  Commands(std::ostream& transcript, ScriptedOutside& outside, Quilla& quilla, Hands& hands)
+  Commands(std::ostream& transcript, Surroundings& surroundings, Quilla& quilla, Hands& hands)
       : transcript_(transcript),
-        outside_(outside),
+        surroundings_(surroundings),
         quilla_(quilla),
         hands_(hands),
         changes_(quilla) {}
@@ -108,7 +108,7 @@ class Commands {
   Form& ActiveWindow();
 
   std::ostream& transcript_;
-  ScriptedOutside& outside_;
+  Surroundings& surroundings_;
   Quilla& quilla_;
   Hands& hands_;
   Changes changes_;

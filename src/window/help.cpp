@@ -59,7 +59,13 @@ void Help::AddTo(Form& form, QWidget& window) {
 }
 
 GuideWindow& Help::guide() {
-  if (guide_ == nullptr) guide_ = std::make_unique<GuideWindow>();
+  if (guide_ == nullptr) {
+    guide_ = std::make_unique<GuideWindow>();
+    connect(&guide_->page(), &GuidePage::DemonstrationChosen, this, [this](const QString& name) {
+      guide_->close();
+      Q_EMIT DemonstrationChosen(name);
+    });
+  }
   return *guide_;
 }
 

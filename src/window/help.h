@@ -25,6 +25,10 @@ class Help : public QObject {
   void AddTo(Form& form, QWidget& window);
   GuideWindow& guide();
 
+ Q_SIGNALS:
+  /// A demonstration was chosen in the guide, by its name.
+  void DemonstrationChosen(const QString& name);
+
  private:
   void Open(const Form& form, QWidget& window);
 

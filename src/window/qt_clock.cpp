@@ -1,5 +1,7 @@
 #include "window/qt_clock.h"
 
+#include <algorithm>
+
 namespace quilla {
 
 void QtClock::Start(Timer& timer) {
@@ -17,6 +19,11 @@ void QtClock::Start(Timer& timer) {
 void QtClock::Stop(Timer& timer) {
   const auto found = timers_.find(&timer);
   if (found != timers_.end()) found->second->stop();
+}
+
+bool QtClock::IsAtRest() const {
+  return std::none_of(timers_.begin(), timers_.end(),
+                      [](const auto& each) { return each.second->isActive(); });
 }
 
 }  // namespace quilla

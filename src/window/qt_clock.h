@@ -17,6 +17,8 @@ class QtClock : public Clock {
 
   void Start(Timer& timer) override;
   void Stop(Timer& timer) override;
+  /// Whether no timer is enabled.
+  bool IsAtRest() const;
 
  private:
   Gate& gate_;

@@ -17,6 +17,7 @@ class QtOutside {
  public:
   Outside& ports() { return ports_; }
   Gate& gate() { return gate_; }
+  QtClock& clock() { return clock_; }
   QtEventLoop& event_loop() { return event_loop_; }
 
  private:

@@ -69,6 +69,7 @@ void GuidePage::TurnTo(const QString& anchor) {
   QUrl url(kGuide);
   if (!anchor.isEmpty()) url.setFragment(anchor);
   setSource(url, QTextDocument::HtmlResource);
+  setTextCursor(cursorForPosition({}));  // Tab goes on to the first link from here
 }
 
 void GuidePage::Zoom(int steps) {

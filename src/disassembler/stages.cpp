@@ -18,6 +18,10 @@ constexpr const char* kVariablePrefix = "v";
 constexpr const char* kLabelPrefix = "a";
 constexpr const char* kBeforeOperand = "  ";
 
+std::string NumberedName(const char* prefix, int number) {
+  return std::string(prefix).append(std::to_string(number));
+}
+
 /// The strings that operands are called by, those that the session has and new ones.
 class OperandNames {
  public:
@@ -33,7 +37,7 @@ class OperandNames {
   /// A new variable for a byte.
   const std::string& VariableFor(std::string_view byte) {
     bytes_.emplace_back(byte);
-    return variables_.emplace_back(kVariablePrefix + std::to_string(session_.NextVariableNumber++));
+    return variables_.emplace_back(NumberedName(kVariablePrefix, session_.NextVariableNumber++));
   }
 
   /// The first label with this equivalent, or a new one.
@@ -41,7 +45,7 @@ class OperandNames {
     const auto [known, is_new] = by_address_.emplace(std::move(address), labels_.size());
     if (is_new) {
       addresses_.push_back(known->first);
-      labels_.push_back(kLabelPrefix + std::to_string(session_.NextLabelNumber++));
+      labels_.push_back(NumberedName(kLabelPrefix, session_.NextLabelNumber++));
     }
     return labels_[known->second];
   }

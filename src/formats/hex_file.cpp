@@ -11,14 +11,14 @@ namespace quilla {
 namespace {
 
 constexpr unsigned kFlags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
-constexpr const char* kFilter = "Hex Files(*.hex)|*.hex";
+constexpr const char* kHexFilter = "Hex Files(*.hex)|*.hex";
 constexpr const char* kSaveTitle = "Save to Hex file";
 constexpr const char* kOpenTitle = "Open Hex file";
 
 CommonDialog HexDialog(Session& session, const char* title) {
   CommonDialog dialog(session.outside.file_dialogs);
   dialog.Flags = kFlags;
-  dialog.Filter = kFilter;
+  dialog.Filter = kHexFilter;
   dialog.DialogTitle = title;
   return dialog;
 }

@@ -18,7 +18,7 @@ constexpr const char* kWarning =
 constexpr const char* kFormatTag = "8085";
 constexpr const char* kEndOfTable = "EOT";
 constexpr const char* kEndOfFile = "EOF";
-constexpr const char* kFilter = "Brelvanor Assembler Files (*.baf)|*.baf";
+constexpr const char* kProjectFilter = "Brelvanor Assembler Files (*.baf)|*.baf";
 constexpr const char* kExtension = ".baf";
 constexpr std::size_t kExtensionLength = 4;
 
@@ -60,7 +60,7 @@ void ProjectFile::SaveFile_Click() {
 void ProjectFile::SaveAsFile_Click() {
   try {
     FileDialog_.Flags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
-    FileDialog_.Filter = kFilter;
+    FileDialog_.Filter = kProjectFilter;
     FileDialog_.DialogTitle = "Save As";
     FileDialog_.ShowSave();
     session_.ProjectPath = FileDialog_.FileName;
@@ -130,7 +130,7 @@ void ProjectFile::OpenFile_Click() {
   if (!OfferToSave(session_)) return;
   try {
     FileDialog_.Flags = kHideReadOnly | kPathMustExist | kFileMustExist;
-    FileDialog_.Filter = kFilter;
+    FileDialog_.Filter = kProjectFilter;
     FileDialog_.DialogTitle = "Open";
     FileDialog_.ShowOpen();
   } catch (const Failure& failure) {

@@ -10,7 +10,6 @@
 namespace quilla::robot {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
 constexpr int kRestarts = 8;
 
 /// What an operand may be.

@@ -13,7 +13,6 @@
 namespace quilla::robot {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kCommandMark = ";";
 constexpr char kQuote = '"';
 constexpr char kEscape = '\\';

@@ -22,6 +22,9 @@ class NotACommand {
   std::string reason_;
 };
 
+/// What parts the words of a line.
+inline constexpr std::string_view kBlanks = " \t";
+
 /// The text in double quotes, with every character escaped that would not stand as itself.
 std::string Quoted(std::string_view text);
 

@@ -1,11 +1,14 @@
-// Programs made up by chance: their addresses against sums, their image against their rows, and
-// their files against themselves.
+// Programs made up by chance: their addresses against sums, their image against their rows, their
+// files against themselves, and what the disassembler makes of their image, rightly marked.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <random>
 #include <string>
+#include <vector>
 
+#include "formats/hex_records.h"
 #include "isa/instruction_set.h"
 #include "panel/running_program.h"
 #include "platform/number_text.h"
@@ -56,9 +59,10 @@ class RandomProgramsTest : public testing::TestWithParam<unsigned> {
   void MakeRow(int row) {
     Session& session = program_.session();
     const int opcode = Below(kOpcodeCount);
-    const int length = InstructionLength(opcode);
+    const bool is_data = IsInvalidOpcode(opcode) || Below(6) == 0;
+    const int length = is_data ? 1 : InstructionLength(opcode);
     const int name = Below(kNames);
-    Set(row, kMnemonicColumn, std::string(MnemonicsLUTList(opcode)));
+    Set(row, kMnemonicColumn, is_data ? kDataMnemonic : std::string(MnemonicsLUTList(opcode)));
     std::string cell = OpcodeCell(opcode);
     if (length == 2) cell = WithVariable(cell, session.XXEqtList[name]);
     if (length == 3) cell = WithLabel(cell, "XXXX");
@@ -67,6 +71,35 @@ class RandomProgramsTest : public testing::TestWithParam<unsigned> {
       const TextList& names = length == 2 ? session.XXCombo : session.LabelCombo;
       session.StringTable.SetTextMatrix(row, 0, names[name]);
     }
+  }
+
+  bool IsData(int row) { return Cell(row, kMnemonicColumn) == kDataMnemonic; }
+
+  /// The Opcode cells of the rows that have one, with the mnemonic of data before theirs.
+  std::vector<std::string> Cells() {
+    std::vector<std::string> cells;
+    for (int row = 0; row < program_.session().Table1.Rows(); ++row) {
+      const std::string& cell = Cell(row, kOpcodeColumn);
+      if (!cell.empty()) cells.push_back((IsData(row) ? kDataMnemonic : "") + cell);
+    }
+    return cells;
+  }
+
+  /// Marks the bytes of each row by a drag upwards, presses Done and waits.
+  void MarkAsInProgram(Form& dialog) {
+    auto& table = dynamic_cast<Grid&>(*dialog.Find("DataTable"));
+    int first = 1;
+    for (int row = 0; row < program_.session().Table1.Rows(); ++row) {
+      const int bytes = ByteCount(Cell(row, kOpcodeColumn));
+      if (bytes == 0) continue;
+      dialog.Find("DataType", IsData(row) ? 0 : 1)->Choose();
+      table.PressCell(first + bytes - 1, 0);
+      table.ReleaseAt(first);
+      first += bytes;
+    }
+    EXPECT_EQ(table.Rows(), first);
+    dialog.Find("DoneButton")->Choose();
+    program_.Wait();
   }
 
   robot::ScratchFolder folder_{"no files"};
@@ -150,6 +183,21 @@ TEST_P(RandomProgramsTest, AFileGivesTheSameProgram) {
   reader.SaveAs("b.baf");
   EXPECT_EQ(BytesOf("a.baf"), BytesOf("b.baf"));
   EXPECT_EQ(reader.TakeBoxes() + program_.TakeBoxes(), "");
+}
+
+TEST_P(RandomProgramsTest, WhatWasAssembledComesBack) {
+  Session& session = program_.session();
+  program_.Choose(session.menu.AssembleFile, "first.hex");
+  if (!RecordsAreGood(session.HexList)) return;  // a checksum of three digits
+  const std::vector<std::string> records = session.HexList.items();
+  const std::vector<std::string> cells = Cells();
+  program_.InDialog([this](Form& dialog) { MarkAsInProgram(dialog); });
+  session.FileChanged = false;
+  program_.Choose(session.menu.DisassembleFile, "first.hex");
+  EXPECT_EQ(session.TipsLabel.caption(), "Disassembling completed successfully.");
+  EXPECT_EQ(Cells(), cells);
+  program_.Choose(session.menu.AssembleFile, "second.hex");
+  EXPECT_EQ(session.HexList.items(), records);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomProgramsTest, testing::Range(1U, 13U));

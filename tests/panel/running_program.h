@@ -3,6 +3,7 @@
 #define QUILLA_TESTS_PANEL_RUNNING_PROGRAM_H_
 
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <sstream>
 #include <string>
@@ -18,7 +19,7 @@ class RunningProgram {
  public:
   RunningProgram() {
     quilla_.Start();
-    outside_.clock.PassAll();
+    Wait();
     TakeBoxes();
   }
 
@@ -27,7 +28,16 @@ class RunningProgram {
   void Choose(MenuEntry& entry, const std::string& path = {}) {
     if (!path.empty()) outside_.file_dialogs.Queue(path);
     entry.Choose();
-    outside_.clock.PassAll();
+    Wait();
+  }
+  /// Lets time pass until no timer is enabled.
+  void Wait() { outside_.clock.PassAll(); }
+  /// Runs an action in the modal dialog that the next command opens.
+  void InDialog(const std::function<void(Form&)>& action) {
+    outside_.event_loop.play_command = [this, action] {
+      action(*outside_.event_loop.active());
+      return true;
+    };
   }
   void Open(const std::string& path) {
     session().FileChanged = false;

@@ -5,11 +5,11 @@ dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> cancel
 TipsLabel caption="New File." enabled=1 visible=1
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "none.hex"
 box critical "Unable to open none.hex." ok -> ok
-> path cut.baf ; click DisassembleFile ; path cut.baf ; click DisassembleFile
-dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "cut.baf"
-box critical "Unable to open cut.baf." ok -> ok
-dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "cut.baf"
-box critical "Unable to open cut.baf." ok -> ok
+> path latin.baf ; click DisassembleFile ; path latin.baf ; click DisassembleFile
+dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "latin.baf"
+box critical "Unable to open latin.baf." ok -> ok
+dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "latin.baf"
+box critical "Unable to open latin.baf." ok -> ok
 > path sum.hex ; click DisassembleFile ; show TipsLabel
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "sum.hex"
 box critical "Check Sum error in sum.hex." ok -> ok

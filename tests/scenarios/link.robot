@@ -17,16 +17,15 @@ dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "zero.hex"
 box critical "Unable to open zero.hex." ok -> ok
 > path short.hex ; click DownloadFile
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "short.hex"
-box critical "Check Sum error in short.hex." ok -> ok
+box critical "Unable to open short.hex." ok -> ok
 # The user changes his mind at the prompt: the records stay, and the port stays closed.
 > changes ; path good.hex ; click DownloadFile ; settle ; changes
 session: HexPath="short.hex" HexTitle="short.hex" MessageResult="1"
-HexList 0=":018000007F" 1=":00000001FF" | caption: TipsLabel="Program Mode."
+caption: TipsLabel="Reading Hex file . . ."
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> cancel
 session: HexPath="good.hex" HexTitle="good.hex" MessageResult="2"
-HexList count=3 (1 in at 0) 0=":0080000080" 1=":018000007609"
-caption: TipsLabel="Ready to download."
+HexList 0=":0080000080" 1=":018000007609" 2=":00000001FF" | caption: TipsLabel="Ready to download."
 # Every stage in its time, from data mode and back to it. The port stays open for 100 ms.
 > click EntryMode ; path good.hex ; click DownloadFile ; answer ok ; tick 10 ; show TipsLabel
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"

@@ -3,7 +3,6 @@
 #define QUILLA_WALK_RULES_H_
 
 #include <string>
-#include <vector>
 
 #include "program/session.h"
 
@@ -12,7 +11,7 @@ namespace quilla::walk {
 class Rules {
  public:
   /// The session must outlive the object.
-  explicit Rules(const Session& session);
+  explicit Rules(const Session& session) : session_(session) {}
 
   /// Says which of the rules is broken; empty if all hold.
   std::string Broken() const;
@@ -23,10 +22,7 @@ class Rules {
   std::string BrokenPaste() const;
 
  private:
-  std::string StrayBox() const;
-
   const Session& session_;
-  std::vector<const Control*> boxes_;
 };
 
 }  // namespace quilla::walk

@@ -3,10 +3,8 @@
 #ifndef QUILLA_WALK_SCRIPT_MAKER_H_
 #define QUILLA_WALK_SCRIPT_MAKER_H_
 
-#include <functional>
 #include <random>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "panel/quilla.h"
@@ -28,35 +26,29 @@ class ScriptMaker {
   int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
 
  private:
-  using Choice = std::function<bool(const Control&)>;
-
-  /// The controls of that sort that the user can get at: visible, enabled, in no blocked window.
-  std::vector<Control*> Usable(const Choice& choice);
-  template <typename Type>
-  const Type& AnyOf(const std::vector<Type>& choice) {
-    return choice[static_cast<std::size_t>(Below(static_cast<int>(choice.size())))];
+  template <typename List>
+  const auto& AnyOf(const List& choice) {
+    return choice[static_cast<std::size_t>(Below(static_cast<int>(std::size(choice))))];
   }
+  /// The controls of a type that the user can get at: in sight, enabled, in no blocked window.
+  template <typename Type>
+  std::vector<const Type*> Usable();
+  /// Something done with any of them.
+  template <typename Type>
+  std::string Use();
 
-  // The habits of the user.
   /// What leads on in the task at hand: its text, its keys, and the button that ends it.
   std::string GoOn();
   std::string ChooseCommand();
-  std::string ClickUsable();
-  /// A click on whatever there is: most of them are refused.
-  std::string ClickAnything();
-  std::string ClickCell();
-  std::string UseInput();
   std::string QueueAnswer();
-  std::string Wait();
-  std::string Hover();
+  std::string QueuePath();
   std::string CloseWindow();
 
-  std::string ClickOn(const Control& control);
-  std::string QueuePath();
-  std::string TypeInto(const Control& text_box);
-  std::string PressKeys(const Control& control);
-  std::string PickFrom(const ComboBox& list);
-  int AnyRow(const Grid& grid);
+  std::string Act(const Grid& grid);
+  std::string Act(const ComboBox& list);
+  std::string Act(const TextBox& text_box);
+  std::string Act(const Control& control);
+  std::string AnyRowOf(const Grid& grid);
   std::string AnyName();
 
   std::mt19937 random_;

@@ -52,8 +52,6 @@ class Walk : private std::streambuf {
   }
 
  private:
-  enum class Stage { kWalking, kClosing, kEscaping, kEscaped, kUpdated, kOver };
-
   Session& session() { return robot_.quilla().panel()->session(); }
 
   int_type underflow() override {
@@ -73,7 +71,6 @@ class Walk : private std::streambuf {
   std::string NextLine();
   /// The name of a window besides the panel, the one that blocks the others first; or empty.
   std::string OpenWindow();
-  std::string AfterEscape();
 
   std::istream script_;
   std::ostream nowhere_;
@@ -85,44 +82,38 @@ class Walk : private std::streambuf {
   int lines_left_;
   std::string line_;
   std::string fault_;
-  Stage stage_ = Stage::kWalking;
   int closings_left_ = kMostClosings;
-  bool settled_ = false;
-  bool row_picked_ = false;
+  int steps_home_ = 0;
 };
 
 std::string Walk::NextLine() {
-  switch (stage_) {
-    case Stage::kWalking:
-      if (lines_left_-- > 0) return maker_.NextLine();
-      stage_ = Stage::kClosing;
-      [[fallthrough]];
-    case Stage::kClosing:
-      if (const std::string window = OpenWindow(); !window.empty()) {
-        settled_ = false;
-        if (--closings_left_ > 0) return "close " + window;
-        fault_ = window + " does not close";
-        return {};
-      }
-      if (!settled_) {
-        settled_ = true;
-        return "settle";
-      }
-      stage_ = Stage::kEscaping;
-      [[fallthrough]];
-    case Stage::kEscaping:
-      stage_ = Stage::kEscaped;
-      return "escape";
-    case Stage::kEscaped:
-      return AfterEscape();
-    case Stage::kUpdated:
-      fault_ = rules_->BrokenLabelList();
-      stage_ = Stage::kOver;
-      break;
-    case Stage::kOver:
-      break;
+  if (lines_left_-- > 0) return maker_.NextLine();
+  if (const std::string window = OpenWindow(); !window.empty()) {
+    if (--closings_left_ > 0) return "close " + window;
+    fault_ = window + " does not close";
+    return {};
   }
-  return {};
+  switch (steps_home_++) {
+    case 0:
+      return "settle";
+    case 1:
+    case 3:
+      return "escape";
+    case 2: {
+      // A row that was picked once and is gone holds the task open, until another one is picked.
+      if (session().ClickedRow < session().Table1.Rows()) return "tick 10";
+      int row = 1;
+      while (session().IsOrigin(row)) ++row;
+      return "cell Table1 " + std::to_string(row) + " 0";
+    }
+    case 4:
+      if (session().IsReady()) return "click PlaceLabelTool";
+      fault_ = "Esc does not lead back";
+      return {};
+    default:
+      fault_ = rules_->BrokenLabelList();
+      return {};
+  }
 }
 
 std::string Walk::OpenWindow() {
@@ -130,23 +121,6 @@ std::string Walk::OpenWindow() {
   for (const Form* form : robot_.quilla().Forms()) {
     if (form->visible() && form != &session().ProgrammingPanel) return form->name();
   }
-  return {};
-}
-
-std::string Walk::AfterEscape() {
-  if (session().IsReady()) {
-    stage_ = Stage::kUpdated;
-    return "click PlaceLabelTool";
-  }
-  // A row that was picked once and is gone holds the task open, until another one is picked.
-  if (!row_picked_ && session().ClickedRow >= session().Table1.Rows()) {
-    row_picked_ = true;
-    stage_ = Stage::kEscaping;
-    int row = 1;
-    while (session().IsOrigin(row)) ++row;
-    return "cell Table1 " + std::to_string(row) + " 0";
-  }
-  fault_ = "Esc does not lead back";
   return {};
 }
 

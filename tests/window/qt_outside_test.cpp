@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <functional>
+#include <map>
+#include <vector>
 
 #include "platform/failure.h"
 #include "window/colors.h"
@@ -52,39 +54,33 @@ TEST(GateTest, FailuresEndHereAndOthersAreKept) {
 }
 
 TEST(QtMessageBoxesTest, ShowTheTextAndGiveTheButton) {
-  struct Case {
+  const std::map<BoxAnswer, QMessageBox::StandardButton> buttons = {
+      {BoxAnswer::kOk, QMessageBox::Ok},
+      {BoxAnswer::kCancel, QMessageBox::Cancel},
+      {BoxAnswer::kYes, QMessageBox::Yes},
+      {BoxAnswer::kNo, QMessageBox::No}};
+  const struct {
     BoxButtons buttons;
-    std::vector<std::pair<QMessageBox::StandardButton, BoxAnswer>> answers;
-    BoxAnswer escape;
-  };
-  constexpr auto kOk = QMessageBox::Ok;
-  constexpr auto kCancel = QMessageBox::Cancel;
-  constexpr auto kYes = QMessageBox::Yes;
-  constexpr auto kNo = QMessageBox::No;
-  const std::vector<Case> cases = {
-      {BoxButtons::kOk, {{kOk, BoxAnswer::kOk}}, BoxAnswer::kOk},
-      {BoxButtons::kOkCancel,
-       {{kOk, BoxAnswer::kOk}, {kCancel, BoxAnswer::kCancel}},
-       BoxAnswer::kCancel},
-      {BoxButtons::kYesNo, {{kYes, BoxAnswer::kYes}, {kNo, BoxAnswer::kNo}}, BoxAnswer::kNo},
-      {BoxButtons::kYesNoCancel,
-       {{kYes, BoxAnswer::kYes}, {kNo, BoxAnswer::kNo}, {kCancel, BoxAnswer::kCancel}},
-       BoxAnswer::kCancel}};
+    std::vector<BoxAnswer> answers;  // the last is that of Esc
+  } cases[] = {{BoxButtons::kOk, {BoxAnswer::kOk}},
+               {BoxButtons::kOkCancel, {BoxAnswer::kOk, BoxAnswer::kCancel}},
+               {BoxButtons::kYesNo, {BoxAnswer::kYes, BoxAnswer::kNo}},
+               {BoxButtons::kYesNoCancel, {BoxAnswer::kYes, BoxAnswer::kNo, BoxAnswer::kCancel}}};
   QtMessageBoxes boxes;
-  for (const Case& each : cases) {
-    for (const auto& pair : each.answers) {
+  for (const auto& each : cases) {
+    for (const BoxAnswer answer : each.answers) {
       WhenOpen<QMessageBox>([&](QMessageBox& box) {
         EXPECT_EQ(box.text(), "Save <b>changes</b>?");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.windowTitle(), "Quilla");
         EXPECT_EQ(box.icon(), QMessageBox::Question);
         EXPECT_EQ(box.buttons().size(), static_cast<qsizetype>(each.answers.size()));
-        box.button(pair.first)->click();
+        box.button(buttons.at(answer))->click();
       });
-      EXPECT_EQ(boxes.Show(BoxIcon::kQuestion, "Save <b>changes</b>?", each.buttons), pair.second);
+      EXPECT_EQ(boxes.Show(BoxIcon::kQuestion, "Save <b>changes</b>?", each.buttons), answer);
     }
     WhenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_EQ(boxes.Show(BoxIcon::kQuestion, "?", each.buttons), each.escape);
+    EXPECT_EQ(boxes.Show(BoxIcon::kQuestion, "?", each.buttons), each.answers.back());
   }
 }
 

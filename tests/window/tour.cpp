@@ -1,15 +1,13 @@
 // Plays a scenario on the real windows, on the display that is there, and leaves pictures of them
 // and the files that the scenario saves in a folder:
 //   quilla-tour SCENARIO FOLDER
-// A comment "# picture NAME" names a picture to be taken at the next `state` or `changes`.
+// A comment "# picture NAME" names a picture to be taken at the next line that ends in `changes`.
 #include <QApplication>
 #include <QTest>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -27,8 +25,7 @@ namespace fs = std::filesystem;
 constexpr int kUsage = 2;
 constexpr int kPaintMs = 50;
 
-/// For each `state` and `changes` of a scenario the name of its picture; empty where none is
-/// wanted.
+/// For each `changes` of a scenario the name of its picture; empty where none is wanted.
 std::vector<std::string> PictureNames(const fs::path& scenario) {
   static const std::string kMark = "# picture ";
   std::vector<std::string> names;
@@ -36,9 +33,9 @@ std::vector<std::string> PictureNames(const fs::path& scenario) {
   std::ifstream file(scenario);
   for (std::string line; std::getline(file, line);) {
     if (line.starts_with(kMark)) name = line.substr(kMark.size());
-    static const std::regex kLook(R"((^> | ; )(state|changes)(?= ;|$))");
-    const auto looks = std::distance(std::sregex_iterator(line.begin(), line.end(), kLook), {});
-    for (auto look = looks; look > 0; --look) names.push_back(std::exchange(name, {}));
+    if (line.starts_with("> ") && line.ends_with(" changes")) {
+      names.push_back(std::exchange(name, {}));
+    }
   }
   return names;
 }
@@ -49,12 +46,11 @@ class PicturingHands : public WidgetHands {
       : WidgetHands(event_loop), event_loop_(event_loop), names_(std::move(names)) {}
 
   void OnState() override {
-    const std::size_t step = step_++;
-    if (step >= names_.size() || names_[step].empty()) return;
+    const std::string& name = names_.at(step_++);
     for (const auto& [form, window] : shown()) {
       const bool used = form == event_loop_.active() ||
                         (event_loop_.active() == nullptr && form->name() == kProgrammingPanel);
-      if (used) TakePicture(*window.window, names_[step]);
+      if (used && !name.empty()) TakePicture(*window.window, name);
     }
   }
 
@@ -86,10 +82,6 @@ int Tour(const fs::path& scenario_path, const fs::path& folder) {
   const int result = robot.Play();
   const std::string difference = FirstDifference(scenario.transcript, transcript.str());
   if (!difference.empty()) std::cerr << difference;
-  for (const auto& entry : fs::directory_iterator(folder)) {
-    if (entry.path().extension() != ".hex") continue;
-    std::cout << fs::absolute(entry.path()).string() << '\n';
-  }
   return difference.empty() ? result : 1;
 }
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr unsigned kFlags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
 constexpr const char* kHexFilter = "Hex Files(*.hex)|*.hex";
+constexpr const char* kHexExtension = ".hex";
 constexpr const char* kSaveTitle = "Save to Hex file";
 constexpr const char* kOpenTitle = "Open Hex file";
 
@@ -51,6 +52,7 @@ bool SaveHexRecords(Session& session, int channel, FailedWrite failed_write,
   bool closes_channel = true;
   try {
     CommonDialog dialog = HexDialog(session, kSaveTitle);
+    dialog.Name = NameWithExtension(session.FileName, kHexExtension);
     dialog.ShowSave();
     session.HexPath = dialog.FileName;
     path_known();

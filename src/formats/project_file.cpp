@@ -62,6 +62,8 @@ void ProjectFile::SaveAsFile_Click() {
     FileDialog_.Flags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
     FileDialog_.Filter = kProjectFilter;
     FileDialog_.DialogTitle = "Save As";
+    FileDialog_.Name = NameWithExtension(session_.FileName, kExtension);
+    FileDialog_.Target = WithExtension;
     FileDialog_.ShowSave();
     session_.ProjectPath = FileDialog_.FileName;
     session_.FileName = FileDialog_.FileTitle;

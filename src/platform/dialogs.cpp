@@ -4,8 +4,12 @@
 
 namespace quilla {
 
+std::string NameWithExtension(const std::string& name, const std::string& extension) {
+  return name.substr(0, name.find_last_of('.')) + extension;
+}
+
 void CommonDialog::Show(FileDialogKind kind) {
-  const auto path = dialogs_.Choose({kind, DialogTitle, Filter, Flags});
+  const auto path = dialogs_.Choose({kind, DialogTitle, Filter, Flags, Name, Target});
   if (!path) throw Failure(ErrorNumber::kDialogCancelled);
   FileName = *path;
   const auto separator = FileName.find_last_of("/\\");

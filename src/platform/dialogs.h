@@ -2,6 +2,7 @@
 #ifndef QUILLA_PLATFORM_DIALOGS_H_
 #define QUILLA_PLATFORM_DIALOGS_H_
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -34,14 +35,22 @@ struct FileDialogRequest {
   std::string title;
   std::string filter;  // "Name(*.ext)|*.ext"
   unsigned flags;      // FileDialogFlag values
+  /// The name that is filled in at first, without a folder.
+  std::string name = {};
+  /// The file that is written for a path that is chosen; the path itself where there is none.
+  std::function<std::string(const std::string& path)> target = {};
 };
 
 class FileDialogs {
  public:
   virtual ~FileDialogs() = default;
-  /// Lets the user choose a file; gives its path in UTF-8, or nothing for a cancel.
+  /// Lets the user choose a file; gives its path in UTF-8, or nothing for a cancel. Whether a file
+  /// may be replaced is asked of the target of the path; fails as that does.
   virtual std::optional<std::string> Choose(const FileDialogRequest& request) = 0;
 };
+
+/// The name with this extension in the place of its own, if it has one.
+std::string NameWithExtension(const std::string& name, const std::string& extension);
 
 /// A file dialog with its settings, which last from one use to the next.
 class CommonDialog {
@@ -51,6 +60,9 @@ class CommonDialog {
   unsigned Flags = 0;
   std::string Filter;
   std::string DialogTitle;
+  /// What a dialog for saving begins with, and where it leads: see `FileDialogRequest`.
+  std::string Name;
+  std::function<std::string(const std::string& path)> Target;
   /// The path chosen last, and what follows its last separator.
   std::string FileName;
   std::string FileTitle;

@@ -39,6 +39,9 @@ class Form : public Control {
   FormPointer pointer() const { return pointer_; }
   void set_pointer(FormPointer pointer) { Change(pointer_, pointer, Property::kPointer); }
 
+  /// The window that this one stands over and is minimised with; null for one of its own.
+  const Form* owner = nullptr;
+
   /// Asked before the window closes by its frame; false keeps it open.
   std::function<bool()> QueryUnload;
   /// The window has closed.

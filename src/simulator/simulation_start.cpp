@@ -21,6 +21,7 @@ SimulationStart::SimulationStart(Session& session, WatchWindowDialog& dialog,
                                  std::function<void(bool)> assign_address)
     : session_(session), dialog_(dialog), assign_address_(std::move(assign_address)) {
   session_.menu.SimulationView.Click = [this] { SimulationView_Click(); };
+  dialog_.form().owner = &session_.ProgrammingPanel;
   SimulationTimer_.Fire = [this] { SimulationTimer_Timer(); };
 }
 

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -70,7 +71,7 @@ Mirror& Show(
 void ShowActive(QWidget& widget, bool active) {
   QPalette palette;
   if (!active) {
-    palette.setBrush(QPalette::Base, widget.palette().brush(QPalette::Active, QPalette::Window));
+    palette.setBrush(QPalette::Base, palette.brush(QPalette::Active, QPalette::Window));
   }
   widget.setPalette(palette);
 }
@@ -178,7 +179,9 @@ void Bind(FormMirror& mirror, Label& label, QLabel& widget) {
 }
 
 void Bind(FormMirror& mirror, TextBox& text_box, QLineEdit& widget) {
-  if (text_box.max_length() > 0) widget.setMaxLength(text_box.max_length());
+  // A line of Qt's own length would cut what a file may hold.
+  widget.setMaxLength(text_box.max_length() > 0 ? text_box.max_length()
+                                                : std::numeric_limits<int>::max());
   Mirror& shown = Show(mirror, text_box, widget, [&](Property property) {
     if (property == Property::kText) ShowText(text_box, widget);
     if (property == Property::kActive) ShowActive(widget, text_box.active());

@@ -17,6 +17,7 @@ namespace {
 constexpr int kTextMargin = 5;
 constexpr float kSelectedTint = 0.45F;
 constexpr double kFocusWidth = 2;
+constexpr int kLongestTip = 2000;
 
 // A mark is a line drawn in a square of side 1.
 using MarkPoint = QPointF;
@@ -136,7 +137,10 @@ QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
 bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                              const QStyleOptionViewItem& option, const QModelIndex& index) {
   const bool cut = sizeHint(option, index).width() > option.rect.width();
-  QToolTip::showText(event->globalPos(), cut ? index.data().toString() : QString(), view);
+  // As HTML a long text is broken into lines.
+  const QString text = index.data().toString().left(kLongestTip).toHtmlEscaped();
+  const QString tip = "<p style='white-space: pre-wrap'>" + text + "</p>";
+  QToolTip::showText(event->globalPos(), cut ? tip : QString(), view);
   return true;
 }
 

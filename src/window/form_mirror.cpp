@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/grid.h"
+#include "window/grid_view.h"
 #include "window/qt_text.h"
 
 namespace quilla {
@@ -59,7 +60,7 @@ Control* FormMirror::ControlAt(const QWidget* widget) const {
 
 void FormMirror::PropertyChanged(Property property) {
   if (property == Property::kCaption) {
-    window_.setWindowTitle(ToQt(form_.caption()));
+    window_.setWindowTitle(ToQt(form_.caption()).replace("[*]", "[*][*]"));  // Qt's own mark
   } else if (property == Property::kEnabled) {
     ShowEnabled();
   } else if (property == Property::kPointer) {
@@ -113,6 +114,22 @@ void FormMirror::SettleFocus() {
   focus_before_ = window_.focusWidget();
 }
 
+void FormMirror::ShowTablesFromTheTop() {
+  for (GridView* table : window_.findChildren<GridView*>()) {
+    table->scrollToTop();
+    table->setCurrentIndex({});
+  }
+}
+
+// The colours that controls have of their own are chosen for the palette.
+void FormMirror::ShowColors() {
+  for (const Control* control : form_.controls()) {
+    if (control->observer == nullptr) continue;
+    control->observer->PropertyChanged(Property::kActive);
+    control->observer->PropertyChanged(Property::kColor);
+  }
+}
+
 bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Close && watched == &window_) {
     event->ignore();
@@ -122,7 +139,13 @@ bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Show && watched == &window_) {
     focus_asked_ = true;
     focus_before_ = nullptr;
+    if (!event->spontaneous()) ShowTablesFromTheTop();
     SettleFocus();
+    return false;
+  }
+  if (event->type() == QEvent::ApplicationPaletteChange && watched == qApp) ShowColors();
+  if (event->type() == QEvent::KeyRelease) {
+    keys_.Release(static_cast<const QKeyEvent&>(*event));
     return false;
   }
   const bool is_key =
@@ -131,7 +154,7 @@ bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   if (!watched->isWidgetType()) return false;
   const auto& widget = static_cast<const QWidget&>(*watched);
   if (event->type() == QEvent::KeyPress &&
-      KeyRouter::IsHeld(widget, static_cast<const QKeyEvent&>(*event))) {
+      keys_.IsHeld(widget, static_cast<const QKeyEvent&>(*event))) {
     return true;
   }
   if (widget.window() != &window_) return false;
@@ -150,15 +173,15 @@ bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-// What a control has been told must not come again for the widgets that it stands in.
+// The form hears of the pointer where it is over nothing else. What one of two widgets, the one in
+// the other, has been told must not come again for the outer one.
 bool FormMirror::HandlePointer(const QWidget& widget, const QMouseEvent& mouse) {
   if (mouse.buttons() != Qt::NoButton) return false;
   Control* const control = ControlAt(&widget);
   if (dynamic_cast<const Grid*>(control) != nullptr) return false;
-  const bool has_hint = control != nullptr && control->MouseMove && control->IsEnabled();
-  Control& hovered = has_hint ? *control : form_;
-  if (hovered.MouseMove) gate_.Enter([&] { hovered.Hover(); });
-  return has_hint;
+  Control& hovered = control != nullptr ? *control : form_;
+  if (hovered.MouseMove && hovered.IsEnabled()) gate_.Enter([&] { hovered.Hover(); });
+  return control != nullptr;
 }
 
 }  // namespace quilla

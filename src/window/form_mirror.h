@@ -68,6 +68,8 @@ class FormMirror final : public QObject, private ControlObserver {
   void MarkDefaultButton();
   void ShowEnabled();
   void ShowPointer();
+  void ShowColors();
+  void ShowTablesFromTheTop();
 
   Gate& gate_;
   EventLoop& event_loop_;

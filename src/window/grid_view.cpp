@@ -89,6 +89,11 @@ void GridView::SetHeadings(const QStringList& headings) {
   horizontalHeader()->show();
 }
 
+void GridView::SetAddressDigits(int count) {
+  address_digits_ = count;
+  setFocusPolicy(Qt::StrongFocus);
+}
+
 void GridView::FitRows() {
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
   horizontalHeader()->setFixedHeight(fontMetrics().height() + kRowPadding);

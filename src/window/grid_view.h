@@ -24,7 +24,7 @@ class GridView : public QTableView {
   void SetHeadings(const QStringList& headings);
   /// Has digits that are typed lead to the row of that address, where the rows are in the order of
   /// their addresses; `count` digits are a whole one.
-  void set_address_digits(int count) { address_digits_ = count; }
+  void SetAddressDigits(int count);
   /// Brings the selection and the pointer shape in line with the grid.
   void SyncWithGrid();
   void keyboardSearch(const QString& digits) override;

@@ -12,6 +12,8 @@
 namespace quilla {
 namespace {
 
+/// No finger presses a key again so soon.
+constexpr quint64 kShortestPauseMs = 2;
 constexpr char16_t kFirstPrintable = u'!';
 constexpr char16_t kLastPrintable = u'~';
 
@@ -27,6 +29,8 @@ bool KeyRouter::Press(const QKeyEvent& key) {
     return true;
   }
   constexpr auto kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  // An access key whose button is disabled is no letter to be typed.
+  if (key.modifiers() == Qt::AltModifier && !key.text().isEmpty()) return true;
   if ((key.modifiers() & kCommands) != Qt::NoModifier) return false;
   switch (key.key()) {
     case Qt::Key_Return:
@@ -55,11 +59,20 @@ bool KeyRouter::ChooseButton(Button* button) {
   return true;
 }
 
-bool KeyRouter::IsHeld(const QWidget& widget, const QKeyEvent& key) {
-  if (!key.isAutoRepeat()) return false;
+// Where the window system repeats a key it lets it go and presses it again in one moment, and Qt,
+// that looks for it in what has come so far, may miss it.
+bool KeyRouter::IsHeld(const QWidget& widget, const QKeyEvent& key) const {
+  const bool is_pressed_again = key.key() == released_ && key.timestamp() != 0 &&
+                                key.timestamp() <= released_at_ + kShortestPauseMs;
+  if (!key.isAutoRepeat() && !is_pressed_again) return false;
   const bool writes_blanks = qobject_cast<const QLineEdit*>(&widget) != nullptr;
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
          (key.key() == Qt::Key_Space && !writes_blanks);
+}
+
+void KeyRouter::Release(const QKeyEvent& key) {
+  released_ = key.key();
+  released_at_ = key.timestamp();
 }
 
 // A button out of sight may have the focus, but does not show it.

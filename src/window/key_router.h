@@ -4,6 +4,8 @@
 #ifndef QUILLA_WINDOW_KEY_ROUTER_H_
 #define QUILLA_WINDOW_KEY_ROUTER_H_
 
+#include <QtGlobal>
+
 #include "platform/button.h"
 
 class QAbstractButton;
@@ -24,7 +26,9 @@ class KeyRouter {
   bool Press(const QKeyEvent& key);
   /// Whether a key only repeats, since it is held, what it pressed on `widget` or on another widget
   /// before: the one that has the focus now must not be pressed by it.
-  static bool IsHeld(const QWidget& widget, const QKeyEvent& key);
+  bool IsHeld(const QWidget& widget, const QKeyEvent& key) const;
+  /// Hears of every key that is let go, in whatever window.
+  void Release(const QKeyEvent& key);
 
  private:
   QAbstractButton* ButtonOf(const QKeyEvent& access_key) const;
@@ -34,6 +38,8 @@ class KeyRouter {
   Control* KeyTaker() const;
 
   FormMirror& mirror_;
+  int released_ = 0;
+  quint64 released_at_ = 0;
 };
 
 }  // namespace quilla

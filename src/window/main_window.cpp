@@ -99,7 +99,9 @@ QWidget* MainWindow::MakeStrip(const char* box, const char* heading, const char*
   auto* const row = new QHBoxLayout(strip);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(new QLabel(heading, strip));
-  row->addWidget(MakeBold(mirror_, strip, label), stretch);
+  QWidget* const text = MakeBold(mirror_, strip, label);
+  if (stretch > 0) text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  row->addWidget(text, stretch);
   Bind(mirror_, mirror_.Get<Box>(box), *strip);
   return strip;
 }

@@ -1,9 +1,12 @@
 #include "window/qt_dialogs.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QSettings>
 
 #include "window/qt_text.h"
 
@@ -11,6 +14,8 @@ namespace quilla {
 namespace {
 
 constexpr const char* kTitle = "Quilla";
+/// The width of a file dialog, with room for every column.
+constexpr int kWidthInDigits = 100;
 
 QMessageBox::Icon QtIcon(BoxIcon icon) {
   switch (icon) {
@@ -38,6 +43,21 @@ QMessageBox::StandardButtons QtButtons(BoxButtons buttons) {
   return QMessageBox::Ok;
 }
 
+/// The button that loses nothing; a notice has been asked for.
+QMessageBox::StandardButton DefaultButton(BoxIcon icon, BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::kOk:
+      return QMessageBox::Ok;
+    case BoxButtons::kOkCancel:
+      return icon == BoxIcon::kQuestion ? QMessageBox::Cancel : QMessageBox::Ok;
+    case BoxButtons::kYesNo:
+      return QMessageBox::No;
+    case BoxButtons::kYesNoCancel:
+      return QMessageBox::Yes;
+  }
+  return QMessageBox::Ok;
+}
+
 BoxAnswer AnswerOf(int qt_button) {
   switch (qt_button) {
     case QMessageBox::Yes:
@@ -51,13 +71,40 @@ BoxAnswer AnswerOf(int qt_button) {
   }
 }
 
+int Ask(QWidget* parent, QMessageBox::Icon icon, const QString& text,
+        QMessageBox::StandardButton preselected,
+        QMessageBox::StandardButtons buttons = QMessageBox::Ok) {
+  QMessageBox box(icon, kTitle, text, buttons, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(preselected);
+  return box.exec();
+}
+
+/// Fills in a name, of which typing replaces what is before its ending.
+void FillIn(QFileDialog& dialog, const QString& name) {
+  dialog.selectFile(name);
+  auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+  if (edit != nullptr) edit->setSelection(0, static_cast<int>(name.lastIndexOf('.')));
+}
+
+/// Whether a file may be written where `path` leads, as the user answers.
+bool MayWrite(QFileDialog& dialog, const FileDialogRequest& request, const QString& path) {
+  if ((request.flags & kPathMustExist) != 0 && !QFileInfo(path).dir().exists()) {
+    Ask(&dialog, QMessageBox::Warning, "There is no such folder.", QMessageBox::Ok);
+    return false;
+  }
+  const QFileInfo target(request.target ? ToQt(request.target(FromQt(path))) : path);
+  if ((request.flags & kOverwritePrompt) == 0 || !target.exists()) return true;
+  return Ask(&dialog, QMessageBox::Question,
+             target.fileName() + " already exists. Do you want to replace it?", QMessageBox::No,
+             QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
 }  // namespace
 
 BoxAnswer QtMessageBoxes::Show(BoxIcon icon, const std::string& text, BoxButtons buttons) {
-  QMessageBox box(QtIcon(icon), kTitle, ToQt(text), QtButtons(buttons),
-                  QApplication::activeWindow());
-  box.setTextFormat(Qt::PlainText);
-  return AnswerOf(box.exec());
+  return AnswerOf(Ask(QApplication::activeWindow(), QtIcon(icon), ToQt(text),
+                      DefaultButton(icon, buttons), QtButtons(buttons)));
 }
 
 QString QtFilter(const std::string& filter) {
@@ -67,6 +114,12 @@ QString QtFilter(const std::string& filter) {
   return name + " (" + QString(parts[1]).replace(';', ' ') + ')';
 }
 
+// Qt's dialogs keep a file of settings in the user's folder; in a place that is no folder they
+// cannot.
+QtFileDialogs::QtFileDialogs() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+}
+
 std::optional<std::string> QtFileDialogs::Choose(const FileDialogRequest& request) {
   QFileDialog dialog(QApplication::activeWindow(), ToQt(request.title), folder_,
                      QtFilter(request.filter));
@@ -74,11 +127,16 @@ std::optional<std::string> QtFileDialogs::Choose(const FileDialogRequest& reques
   dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   const bool must_exist = !saves && (request.flags & kFileMustExist) != 0;
   dialog.setFileMode(must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & kOverwritePrompt) == 0);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  const QString path = dialog.selectedFiles().constFirst();
-  folder_ = QFileInfo(path).absolutePath();
-  return FromQt(path);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // it would ask about the name that is typed
+  dialog.resize(kWidthInDigits * dialog.fontMetrics().horizontalAdvance(u'0'), dialog.height());
+  if (saves) FillIn(dialog, ToQt(request.name));
+  while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+    const QString path = dialog.selectedFiles().constFirst();
+    if (saves && !MayWrite(dialog, request, path)) continue;
+    folder_ = QFileInfo(path).absolutePath();
+    return FromQt(path);
+  }
+  return std::nullopt;
 }
 
 }  // namespace quilla

@@ -15,6 +15,7 @@ class QtMessageBoxes : public MessageBoxes {
 
 class QtFileDialogs : public FileDialogs {
  public:
+  QtFileDialogs();
   std::optional<std::string> Choose(const FileDialogRequest& request) override;
 
  private:

@@ -27,10 +27,12 @@ void QtEventLoop::OpenWindow(Form& form) {
     window = make_window_(form);
     if (on_made) on_made(form, *window);
   }
-  const QWidget* const active = QApplication::activeWindow();
-  if (window->isModal() && active != nullptr) {
+  const QWidget* const over = window->isModal()       ? QApplication::activeWindow()
+                              : form.owner == nullptr ? nullptr
+                                                      : WindowOf(*form.owner);
+  if (over != nullptr) {
     window->winId();  // makes the window's handle
-    window->windowHandle()->setTransientParent(active->windowHandle());
+    window->windowHandle()->setTransientParent(over->windowHandle());
   }
   window->show();
 }
@@ -38,6 +40,7 @@ void QtEventLoop::OpenWindow(Form& form) {
 void QtEventLoop::RaiseWindow(Form& form) {
   QWidget* const window = WindowOf(form);
   if (window == nullptr) return;
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->raise();
   window->activateWindow();
 }

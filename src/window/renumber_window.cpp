@@ -71,8 +71,9 @@ QWidget* RenumberWindow::MakePage(const PageNames& names) {
   auto* const row = new QHBoxLayout(edit);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(kSpacing);
-  row->addWidget(MakeBold(mirror_, edit, names.name));
-  row->addStretch();
+  QWidget* const name = MakeBold(mirror_, edit, names.name);
+  name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long one is cut
+  row->addWidget(name, 1);
   row->addWidget(MakeBigDigits(mirror_, edit, names.digits));
   row->addWidget(Make(mirror_, edit, names.accept));
   KeepPlace(*edit);

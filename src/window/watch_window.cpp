@@ -12,6 +12,10 @@
 namespace quilla {
 namespace {
 
+// A window manager keeps none but a dialog over the window that owns it.
+constexpr Qt::WindowFlags kOwnedWindow = Qt::Dialog | Qt::WindowTitleHint |
+                                         Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                                         Qt::WindowCloseButtonHint;
 constexpr int kGap = 14;
 constexpr int kRegisterWidth = 26;
 constexpr int kCellWidth = 24;
@@ -34,7 +38,7 @@ void ShowRows(GridView& table, int rows) {
 }  // namespace
 
 WatchWindow::WatchWindow(Gate& gate, EventLoop& event_loop, Form& form)
-    : QWidget(nullptr, Qt::Window), mirror_(gate, event_loop, form, *this) {
+    : QWidget(nullptr, kOwnedWindow), mirror_(gate, event_loop, form, *this) {
   auto* const tables = new QHBoxLayout;
   tables->setSpacing(kGap);
   tables->addLayout(MakeTall("RegisterCaption", "RegisterTable", kRegisterWidth));
@@ -52,8 +56,8 @@ WatchWindow::WatchWindow(Gate& gate, EventLoop& event_loop, Form& form)
   column->setSpacing(kGap);
   column->addLayout(MakeInstruction());
   column->addLayout(tables, 1);
-  findChild<GridView*>("MemoryTable")->set_address_digits(kAddressDigits);
-  findChild<GridView*>("PortTable")->set_address_digits(kPortDigits);
+  findChild<GridView*>("MemoryTable")->SetAddressDigits(kAddressDigits);
+  findChild<GridView*>("PortTable")->SetAddressDigits(kPortDigits);
   mirror_.passes_characters_on = false;
   PutInScrollArea(*content);
 }

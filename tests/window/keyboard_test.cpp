@@ -79,6 +79,12 @@ TEST_F(KeyboardTest, HeldKeysPressNothing) {
   for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
     QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_Space ? " " : "\r", true);
     for (int i = 0; i < 3; ++i) QApplication::sendEvent(window().focusWidget(), &held);
+    QKeyEvent let_go(QEvent::KeyRelease, key, Qt::NoModifier);
+    QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier);
+    let_go.setTimestamp(5000);
+    again.setTimestamp(5000);
+    QApplication::sendEvent(&window(), &let_go);
+    QApplication::sendEvent(window().focusWidget(), &again);
     Find("Table1").setFocus();
   }
   EXPECT_EQ(Cell(1, kOpcodeColumn), "");
@@ -120,10 +126,28 @@ TEST_F(KeyboardTest, EnterStepsTheSimulatorBehindAnAddress) {
   const auto* const row = simulator.findChild<GridView*>("InstructionTable")->model();
   EXPECT_EQ(row->index(1, 1).data(), "0013");
   auto* const memory = simulator.findChild<GridView*>("MemoryTable");
-  memory->setFocus();
+  QTest::mouseClick(memory->viewport(), Qt::LeftButton);
   for (const char* digit : {"8", "0", "0", "a"}) press(0, digit);
   EXPECT_EQ(memory->currentIndex().row(), 0x800B);
   EXPECT_EQ(text_of("AddrLbl"), "0010");
+}
+
+TEST_F(KeyboardTest, AnAcceptedEquivalentIsFollowedByTheNextName) {
+  EnterStrings();
+  outside_.event_loop.play_command = [&] {
+    Form& form = *quilla_.panel()->Dialogs().front();
+    QWidget& dialog = *hands_.shown().at(&form).window;
+    const auto press = [&](Qt::Key key) { QTest::keyClick(dialog.focusWidget(), key); };
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "LabelTable");
+    press(Qt::Key_Space);
+    outside_.clock.PassAll();
+    press(Qt::Key_7);
+    press(Qt::Key_Return);
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "LabelTable");
+    session().outside.event_loop.Unload(form);
+    return true;
+  };
+  window().findChild<QAction*>("EqtOption")->trigger();
 }
 
 TEST_F(KeyboardTest, EnterPressesThePushButtonThatShowsTheFocus) {

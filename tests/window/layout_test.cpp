@@ -1,7 +1,11 @@
 // What a user sees of the panel: nothing cut off, nothing that jumps, the cursor in view.
 #include <QAbstractButton>
 #include <QAction>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QWindow>
 
 #include "platform/button.h"
 #include "window/panel_fixture.h"
@@ -75,6 +79,7 @@ TEST_F(PanelTest, TheWindowsFitTheScreenFrameAndAll) {
   MainWindow panel(gate, outside_.event_loop, session().ProgrammingPanel);
   EXPECT_TRUE(panel.isMaximized());
   EXPECT_LT(panel.height(), room.height());
+  session().SetTip(std::string(400, 'w'));
   window().resize(2000, 700);
   QCoreApplication::processEvents();
   EXPECT_LT(window().minimumSizeHint().width(), kSmallScreen.width());
@@ -184,6 +189,44 @@ TEST_F(TableTest, ThePointerTellsWhatAClickActsOn) {
   EXPECT_EQ(shape_over(kCommentColumn), Qt::ArrowCursor);
 }
 
+TEST_F(TableTest, ATextIsShownAsItStands) {
+  session().ProgrammingPanel.set_caption("a[*]b");
+  EXPECT_EQ(window().windowHandle()->title(), "a[*]b");
+  const std::string comment = "<b>" + std::string(39997, 'x');
+  session().Table1.SetTextMatrix(1, kCommentColumn, comment);
+  QHelpEvent help(QEvent::ToolTip, CellCenter(1, kCommentColumn), {});
+  QApplication::sendEvent(table().viewport(), &help);
+  EXPECT_TRUE(QToolTip::text().contains("&lt;b&gt;"));
+  Press(Qt::Key_F4);
+  QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, CellCenter(1, kCommentColumn));
+  Press(Qt::Key_Q, Qt::AltModifier);
+  EXPECT_EQ(Cell(1, kCommentColumn), comment);
+  Press(Qt::Key_End);
+  Press(Qt::Key_Backspace);
+  EXPECT_EQ(Cell(1, kCommentColumn).size(), comment.size() - 1);
+}
+
+TEST_F(PanelTest, ATableOpenedAgainStartsAtItsTop) {
+  auto* const memory = OpenSimulator().findChild<GridView*>("MemoryTable");
+  memory->scrollToBottom();
+  memory->window()->close();
+  OpenSimulator();
+  EXPECT_EQ(memory->verticalScrollBar()->value(), 0);
+}
+
+TEST_F(PanelTest, AnotherPaletteRecoloursEverything) {
+  Click("INST 1");
+  Press(Qt::Key_A);
+  const QPalette before = QApplication::palette();
+  session().WriteModeLabel.set_color(0x0000FF);
+  const QColor light = Find("WriteModeLabel").palette().color(QPalette::WindowText);
+  QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
+  EXPECT_EQ(Find("XXCombo").palette().color(QPalette::Base),
+            QApplication::palette().color(QPalette::Window));
+  EXPECT_NE(Find("WriteModeLabel").palette().color(QPalette::WindowText), light);
+  QApplication::setPalette(before);
+}
+
 TEST_F(TableTest, HintsFollowThePointer) {
   const auto hover = [this](QWidget& widget) {
     QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), {}, Qt::NoButton, Qt::NoButton,
@@ -197,6 +240,11 @@ TEST_F(TableTest, HintsFollowThePointer) {
   EXPECT_EQ(operands.text(), "  Register/Memory, 8-Bit Data");
   QCoreApplication::processEvents();
   EXPECT_EQ(operands.x(), name.x() + name.width()) << "the second continues the first";
+  window().mirror().Get<Button>("INST", 5).set_enabled(false);
+  for (const char* hintless : {"INST 5", "InstructionBox", "TipsLabel"}) {
+    hover(Find(hintless));
+    EXPECT_EQ(name.text(), "MVI") << hintless << " is not nothing";
+  }
   hover(*window().centralWidget());
   EXPECT_EQ(name.text(), "");
 }

@@ -61,7 +61,8 @@ class PanelTest : public testing::Test {
     window().findChild<QAction*>("SimulationView")->trigger();
     outside_.clock.PassAll();
     for (const auto& [form, shown] : hands_.shown()) {
-      if (form->name() == "WatchWindowDialog") return *shown.window;
+      const bool owned = form->owner == &session().ProgrammingPanel;
+      if (owned && shown.window->windowType() == Qt::Dialog) return *shown.window;
     }
     throw std::logic_error("no simulator");
   }

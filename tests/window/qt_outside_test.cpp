@@ -3,18 +3,22 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWindow>
 #include <functional>
 #include <map>
 #include <vector>
 
+#include "formats/hex_file.h"
+#include "panel/quilla.h"
 #include "platform/failure.h"
 #include "window/colors.h"
 #include "window/form_mirror.h"
@@ -62,10 +66,13 @@ TEST(QtMessageBoxesTest, ShowTheTextAndGiveTheButton) {
   const struct {
     BoxButtons buttons;
     std::vector<BoxAnswer> answers;  // the last is that of Esc
-  } cases[] = {{BoxButtons::kOk, {BoxAnswer::kOk}},
-               {BoxButtons::kOkCancel, {BoxAnswer::kOk, BoxAnswer::kCancel}},
-               {BoxButtons::kYesNo, {BoxAnswer::kYes, BoxAnswer::kNo}},
-               {BoxButtons::kYesNoCancel, {BoxAnswer::kYes, BoxAnswer::kNo, BoxAnswer::kCancel}}};
+    BoxAnswer preselected;
+  } cases[] = {{BoxButtons::kOk, {BoxAnswer::kOk}, BoxAnswer::kOk},
+               {BoxButtons::kOkCancel, {BoxAnswer::kOk, BoxAnswer::kCancel}, BoxAnswer::kCancel},
+               {BoxButtons::kYesNo, {BoxAnswer::kYes, BoxAnswer::kNo}, BoxAnswer::kNo},
+               {BoxButtons::kYesNoCancel,
+                {BoxAnswer::kYes, BoxAnswer::kNo, BoxAnswer::kCancel},
+                BoxAnswer::kYes}};
   QtMessageBoxes boxes;
   for (const auto& each : cases) {
     for (const BoxAnswer answer : each.answers) {
@@ -74,6 +81,7 @@ TEST(QtMessageBoxesTest, ShowTheTextAndGiveTheButton) {
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.windowTitle(), "Quilla");
         EXPECT_EQ(box.icon(), QMessageBox::Question);
+        EXPECT_EQ(box.defaultButton(), box.button(buttons.at(each.preselected)));
         EXPECT_EQ(box.buttons().size(), static_cast<qsizetype>(each.answers.size()));
         box.button(buttons.at(answer))->click();
       });
@@ -93,7 +101,6 @@ TEST(QtFileDialogsTest, GiveThePathAsTypedOrNothing) {
   WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Save to Hex file");
     EXPECT_EQ(dialog.nameFilters(), QStringList("Hex Files (*.hex)"));
-    EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
     dialog.findChild<QLineEdit*>()->setText(path);
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
   });
@@ -103,6 +110,50 @@ TEST(QtFileDialogsTest, GiveThePathAsTypedOrNothing) {
     dialog.reject();
   });
   EXPECT_EQ(dialogs.Choose(request), std::nullopt);
+}
+
+TEST(QtFileDialogsTest, SavingBeginsWithANameAndAsksOfTheFileThatIsWritten) {
+  const QTemporaryDir folder;
+  const auto in_folder = [&](const char* name) { return QDir(folder.path()).filePath(name); };
+  QFile written(in_folder("a.baf"));
+  ASSERT_TRUE(written.open(QIODevice::WriteOnly));
+  QtOutside outside;
+  Quilla quilla(outside.ports());
+  quilla.Start();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return quilla.panel() != nullptr; }));
+  Session& session = quilla.panel()->session();
+
+  const auto enter = [](QFileDialog& dialog, const QString& path) {
+    dialog.findChild<QLineEdit*>()->setText(path);
+    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+  };
+  const auto refuse_to_replace = [](QMessageBox& box) {
+    EXPECT_EQ(box.text(), "a.baf already exists. Do you want to replace it?");
+    WhenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    box.button(QMessageBox::No)->click();
+  };
+  const auto go_on_from_no_folder = [&](QMessageBox& box) {
+    WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
+      WhenOpen<QMessageBox>(refuse_to_replace);
+      enter(dialog, in_folder("a.new"));
+    });
+    box.button(QMessageBox::Ok)->click();
+  };
+  WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "Pgm1.baf");
+    EXPECT_EQ(dialog.findChild<QLineEdit*>()->selectedText(), "Pgm1");
+    WhenOpen<QMessageBox>(go_on_from_no_folder);
+    enter(dialog, in_folder("none/b.baf"));
+  });
+  session.menu.SaveAsFile.Choose();
+  EXPECT_EQ(written.size(), 0);
+  WhenOpen<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "Pgm1.hex");
+    dialog.reject();
+  });
+  SaveHexRecords(session, 1, FailedWrite::kClosesChannel, [] {});
+  EXPECT_FALSE(QFile::exists(QSettings(QSettings::UserScope, "QtProject").fileName()));
+  outside.event_loop().DestroyWindows();
 }
 
 class QtEventLoopTest : public testing::Test {
@@ -133,6 +184,17 @@ TEST_F(QtEventLoopTest, AModalWindowHoldsItsCallerUntilItIsClosed) {
   loop_.Show(form_);
   EXPECT_EQ(loop_.WindowOf(form_), first) << "a window is kept for the next time";
   EXPECT_TRUE(first->isVisible());
+}
+
+TEST_F(QtEventLoopTest, AnOwnedWindowStandsOverItsOwnerAndComesBackFromBeingMinimised) {
+  other_.owner = &form_;
+  loop_.Show(form_);
+  loop_.Show(other_);
+  QWidget& owned = *loop_.WindowOf(other_);
+  EXPECT_EQ(owned.windowHandle()->transientParent(), loop_.WindowOf(form_)->windowHandle());
+  owned.showMinimized();
+  loop_.Show(other_);
+  EXPECT_FALSE(owned.isMinimized());
 }
 
 TEST_F(QtEventLoopTest, TheEndLeavesEveryWaitInside) {

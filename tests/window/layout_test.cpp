@@ -80,9 +80,9 @@ TEST_F(PanelTest, TheWindowsFitTheScreenFrameAndAll) {
   EXPECT_TRUE(panel.isMaximized());
   EXPECT_LT(panel.height(), room.height());
   session().SetTip(std::string(400, 'w'));
-  window().resize(2000, 700);
+  panel.resize(2000, 700);
   QCoreApplication::processEvents();
-  EXPECT_LT(window().minimumSizeHint().width(), kSmallScreen.width());
+  EXPECT_LT(panel.minimumSizeHint().width(), kSmallScreen.width());
   EXPECT_EQ(Find<GridView>("Table1").model()->headerData(4, Qt::Horizontal), "Comment");
   QWidget& simulator = OpenSimulator();
   EXPECT_LT(simulator.height(), room.height());
@@ -199,8 +199,6 @@ TEST_F(TableTest, ATextIsShownAsItStands) {
   EXPECT_TRUE(QToolTip::text().contains("&lt;b&gt;"));
   Press(Qt::Key_F4);
   QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, CellCenter(1, kCommentColumn));
-  Press(Qt::Key_Q, Qt::AltModifier);
-  EXPECT_EQ(Cell(1, kCommentColumn), comment);
   Press(Qt::Key_End);
   Press(Qt::Key_Backspace);
   EXPECT_EQ(Cell(1, kCommentColumn).size(), comment.size() - 1);

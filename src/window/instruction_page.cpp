@@ -113,7 +113,10 @@ void InstructionPage::FocusLastKey() { keys_[last_key_].widget->setFocus(Qt::Oth
 bool InstructionPage::eventFilter(QObject* watched, QEvent* event) {
   const auto key = key_of_.constFind(watched);
   if (key == key_of_.constEnd()) return false;
-  if (event->type() == QEvent::FocusIn) MakeTabStop(*key);
+  if (event->type() == QEvent::FocusIn) {
+    typed_.clear();
+    MakeTabStop(*key);
+  }
   return event->type() == QEvent::KeyPress && HandleKey(static_cast<const QKeyEvent&>(*event));
 }
 

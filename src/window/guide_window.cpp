@@ -1,5 +1,6 @@
 #include "window/guide_window.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBoxLayout>
 #include <QFile>
 #include <QImage>
@@ -69,7 +70,8 @@ void GuidePage::TurnTo(const QString& anchor) {
   QUrl url(kGuide);
   if (!anchor.isEmpty()) url.setFragment(anchor);
   setSource(url, QTextDocument::HtmlResource);
-  setTextCursor(cursorForPosition({}));  // Tab goes on to the first link from here
+  document()->documentLayout()->documentSize();  // lays out all, so that a place is where it stays
+  setTextCursor(cursorForPosition({}));          // Tab goes on to the first link from here
 }
 
 void GuidePage::Zoom(int steps) {

@@ -35,6 +35,9 @@ MainWindow::MainWindow(Gate& gate, EventLoop& event_loop, Form& form)
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(MakeProgramTable(), 1);
+  auto* const separator = new QFrame(content);
+  separator->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+  column->addWidget(separator);
   column->addWidget(MakeBoxes());
   column->addWidget(MakeTipLine());
   MakeOutOfSight(mirror_, content, kCancelButton);

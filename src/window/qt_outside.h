@@ -2,8 +2,11 @@
 #ifndef QUILLA_WINDOW_QT_OUTSIDE_H_
 #define QUILLA_WINDOW_QT_OUTSIDE_H_
 
+#include <QApplication>
+
 #include "platform/outside.h"
 #include "window/gate.h"
+#include "window/program_icon.h"
 #include "window/qt_clock.h"
 #include "window/qt_dialogs.h"
 #include "window/qt_event_loop.h"
@@ -15,6 +18,8 @@ namespace quilla {
 
 class QtOutside {
  public:
+  QtOutside() { QApplication::setWindowIcon(ProgramIcon()); }
+
   Outside& ports() { return ports_; }
   Gate& gate() { return gate_; }
   QtClock& clock() { return clock_; }

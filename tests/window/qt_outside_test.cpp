@@ -147,6 +147,7 @@ TEST(QtFileDialogsTest, SavingBeginsWithANameAndAsksOfTheFileThatIsWritten) {
   });
   session.menu.SaveAsFile.Choose();
   EXPECT_EQ(written.size(), 0);
+  EXPECT_FALSE(QApplication::windowIcon().isNull());
   WhenOpen<QFileDialog>([](QFileDialog& dialog) {
     EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "Pgm1.hex");
     dialog.reject();

@@ -103,6 +103,7 @@ struct Disassembly {
 /// Times one stage on what the stages before it have made.
 template <typename Before, typename Stage>
 void RunStage(benchmark::State& state, const Before& before, const Stage& stage) {
+  const robot::ScratchFolder folder("");
   const auto size = static_cast<int>(state.range(0)) / kInstructionBytes * kInstructionBytes;
   Disassembly work(size);
   Session& session = work.parts.session;
@@ -115,7 +116,8 @@ void RunStage(benchmark::State& state, const Before& before, const Stage& stage)
     work.Comment();
   }
   Run(
-      state, {PassOver(session)}, [&] { before(work); }, [&] { stage(work); },
+      state, {PassOver(session), PlainReadOf(MakeRecords(size))}, [&] { before(work); },
+      [&] { stage(work); },
       [&] {
         before(work);
         work.Check();

@@ -22,6 +22,39 @@ std::string NumberedName(const char* prefix, int number) {
   return std::string(prefix).append(std::to_string(number));
 }
 
+/// The first place that each address was given. An address of four digits has its slot in a table,
+/// which is quicker than a hash of up to 65,536 texts; any other text is hashed.
+class FirstPlaces {
+ public:
+  static constexpr int kNone = -1;
+
+  /// Gives the address this place unless it has one. Its place.
+  int Add(std::string_view address, int place) {
+    int& known = SlotOf(address);
+    if (known == kNone) known = place;
+    return known;
+  }
+
+  /// The place of the address, or kNone.
+  int Find(std::string_view address) { return SlotOf(address); }
+
+ private:
+  int& SlotOf(std::string_view address) {
+    bool is_plain = address.size() == kAddressDigits;
+    std::size_t number = 0;
+    for (const char digit : address) {
+      is_plain = is_plain && DigitValue(digit) >= 0 && digit <= 'F';
+      number = number * kDigitValues + static_cast<std::size_t>(DigitValue(digit));
+    }
+    return is_plain ? table_[number] : others_.emplace(address, kNone).first->second;
+  }
+
+  static constexpr std::size_t kDigitValues = 0x10;
+  static constexpr std::size_t kAddresses = 0x10000;
+  std::vector<int> table_ = std::vector<int>(kAddresses, kNone);
+  std::unordered_map<std::string, int> others_;
+};
+
 /// The strings that operands are called by, those that the session has and new ones.
 class OperandNames {
  public:
@@ -31,7 +64,10 @@ class OperandNames {
         addresses_(session.LabelEqtList.items()),
         variables_(session.XXCombo.items()),
         bytes_(session.XXEqtList.items()) {
-    for (std::size_t i = 0; i < addresses_.size(); ++i) by_address_.emplace(addresses_[i], i);
+    for (const std::string& address : addresses_) places_.Add(address, next_place_++);
+    const std::size_t most = addresses_.size() + static_cast<std::size_t>(session.Table1.Rows());
+    labels_.reserve(most);
+    addresses_.reserve(most);
   }
 
   /// A new variable for a byte.
@@ -42,12 +78,13 @@ class OperandNames {
 
   /// The first label with this equivalent, or a new one.
   const std::string& LabelFor(std::string address) {
-    const auto [known, is_new] = by_address_.emplace(std::move(address), labels_.size());
-    if (is_new) {
-      addresses_.push_back(known->first);
+    const int place = places_.Add(address, next_place_);
+    if (place == next_place_) {
+      ++next_place_;
+      addresses_.push_back(std::move(address));
       labels_.push_back(NumberedName(kLabelPrefix, session_.NextLabelNumber++));
     }
-    return labels_[known->second];
+    return labels_[static_cast<std::size_t>(place)];
   }
 
   /// Gives the session all strings.
@@ -64,7 +101,8 @@ class OperandNames {
   std::vector<std::string> addresses_;
   std::vector<std::string> variables_;
   std::vector<std::string> bytes_;
-  std::unordered_map<std::string, std::size_t> by_address_;
+  FirstPlaces places_;  // in addresses_
+  int next_place_ = 0;
 };
 
 }  // namespace
@@ -112,15 +150,14 @@ void NameOperands(const ProgramLayout& layout, Session& session) {
 
 void PlaceLabels(Session& session) {
   Grid& table = session.Table1;
-  std::unordered_map<std::string_view, int> row_at;
-  row_at.reserve(static_cast<std::size_t>(table.Rows()));
+  FirstPlaces rows;
   for (int row = 1; row < table.Rows(); ++row) {
-    if (!session.IsOrigin(row)) row_at.emplace(table.TextMatrix(row, kAddressColumn), row);
+    if (!session.IsOrigin(row)) rows.Add(table.TextMatrix(row, kAddressColumn), row);
   }
   for (int label = 0; label < session.LabelCombo.Count(); ++label) {
-    const auto found = row_at.find(session.LabelEqtList[label]);
-    if (found == row_at.end()) continue;
-    table.SetTextMatrix(found->second, kLabelColumn, session.LabelCombo[label]);
+    const int row = rows.Find(session.LabelEqtList[label]);
+    if (row == FirstPlaces::kNone) continue;
+    table.SetTextMatrix(row, kLabelColumn, session.LabelCombo[label]);
   }
 }
 

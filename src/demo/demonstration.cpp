@@ -184,7 +184,7 @@ void Demonstration::AimKey(QWidget& widget) {
 void Demonstration::Choose(QAction& action) {
   const std::vector<QMenu*> menus = MenusOf(action);
   const auto close = [&menus] {
-    for (auto menu = menus.rbegin(); menu != menus.rend(); ++menu) (*menu)->hide();
+    std::for_each(menus.rbegin(), menus.rend(), [](QMenu* menu) { menu->hide(); });
   };
   for (QMenu* menu : menus) {
     QAction* const opener = menu->menuAction();
@@ -206,12 +206,13 @@ void Demonstration::Choose(QAction& action) {
 void Demonstration::Pass(int milliseconds) { Await(milliseconds); }
 
 void Demonstration::PassAll() {
-  do Await(pace_ms_ / kKeyParts);
-  while (!outside_.clock().IsAtRest());
+  do {
+    Await(pace_ms_ / kKeyParts);
+  } while (!outside_.clock().IsAtRest());
 }
 
-const Form* Demonstration::modal() const {
-  for (const Form* form : quilla_.Forms()) {
+Form* Demonstration::modal() const {
+  for (Form* form : quilla_.Forms()) {
     const QWidget* const window = outside_.event_loop().WindowOf(*form);
     if (window != nullptr && window->isModal() && window->isVisible()) return form;
   }
@@ -219,7 +220,7 @@ const Form* Demonstration::modal() const {
 }
 
 Form* Demonstration::active() const {
-  if (const Form* const dialog = modal()) return const_cast<Form*>(dialog);
+  if (Form* const dialog = modal()) return dialog;
   return active_ != nullptr && active_->visible() ? active_ : nullptr;
 }
 

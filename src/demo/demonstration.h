@@ -61,7 +61,7 @@ class Demonstration : public QObject, private WindowHands, private robot::Surrou
   void Feed(const std::string& /*bytes*/) override {}
   void Pass(int milliseconds) override;
   void PassAll() override;
-  const Form* modal() const override;
+  Form* modal() const override;
   Form* active() const override;
   void Use(Form& form) override { active_ = &form; }
 

@@ -160,15 +160,14 @@ std::string Hear(Board& board, std::string_view arrived, const Options& options)
 }  // namespace quilla::trainer
 
 int main(int argc, char** argv) {
-  using namespace quilla::trainer;
   try {
-    Options options = ReadOptions(argc, argv);
-    Serve(options);
+    quilla::trainer::Options options = quilla::trainer::ReadOptions(argc, argv);
+    quilla::trainer::Serve(options);
   } catch (const std::system_error& failure) {
     std::cerr << "quilla-trainer: " << failure.what() << '\n';
     return EXIT_FAILURE;
   } catch (const std::exception&) {
-    std::cerr << kUsage;
+    std::cerr << quilla::trainer::kUsage;
     return 2;
   }
 }

@@ -94,7 +94,7 @@ void GuidePage::Follow(const QUrl& link) {
 
 QVariant GuidePage::loadResource(int type, const QUrl& url) {
   if (type == QTextDocument::HtmlResource) return HtmlOf(u':' + url.path());
-  const QVariant resource = QTextBrowser::loadResource(type, url);
+  QVariant resource = QTextBrowser::loadResource(type, url);
   if (type != QTextDocument::ImageResource) return resource;
   const QImage picture = QImage::fromData(resource.toByteArray());
   if (picture.width() <= kWidestPicture) return picture;

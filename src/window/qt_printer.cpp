@@ -30,7 +30,7 @@ QString AskForPdf(const QString& name) {
   dialog.setDefaultSuffix("pdf");
   dialog.selectFile(QFileInfo(name).completeBaseName() + ".pdf");
   while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
-    const QString path = dialog.selectedFiles().constFirst();
+    QString path = dialog.selectedFiles().constFirst();
     if (CanWrite(path)) return path;
     QMessageBox::critical(&dialog, QApplication::applicationName(), "Unable to save file.");
   }

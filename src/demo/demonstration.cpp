@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "demo/mark.h"
+#include "trainer/board_port.h"
 #include "window/form_mirror.h"
 #include "window/qt_text.h"
 
@@ -85,6 +86,7 @@ Demonstration::Demonstration(Quilla& quilla, QtOutside& outside, const QString& 
 }
 
 void Demonstration::Begin() {
+  outside_.serial_port().LeadTo(std::make_shared<trainer::BoardPort>());
   commands_.Begin();
   Tick();
 }
@@ -92,10 +94,16 @@ void Demonstration::Begin() {
 void Demonstration::Stop() {
   if (over_) return;
   over_ = true;
+  outside_.serial_port().LeadTo(nullptr);
   timer_.stop();
   qApp->removeEventFilter(this);
   bar_.ShowOver();
   if (act_ != nullptr) act_->quit();
+}
+
+void Demonstration::QueuePath(std::optional<std::string> path) {
+  if (path) path = FromQt(folder_.filePath(ToQt(*path)));
+  paths_.push_back(std::move(path));
 }
 
 // A dialog that an act opens holds the act until it is closed; the ticks go on inside it.

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <deque>
 #include <memory>
@@ -31,11 +32,11 @@ class Demonstration : public QObject, private WindowHands, private robot::Surrou
   /// The time between two acts at the usual speed.
   static constexpr int kPaceMs = 900;
 
-  /// `script` is the text of a script. Its file dialogs get the paths that it queues; a box that it
-  /// queues no answer for is the user's.
+  /// `script` is the text of a script. Its file dialogs get the paths that it queues, inside a
+  /// folder that goes with the demonstration; a box that it queues no answer for is the user's.
   Demonstration(Quilla& quilla, QtOutside& outside, const QString& script);
 
-  /// Plays from the first line.
+  /// Plays from the first line. Until the end the serial port leads to a trainer board of its own.
   void Begin();
   void Stop();
   /// Whether it plays, or an act of it still waits for a dialog that it opened.
@@ -54,9 +55,10 @@ class Demonstration : public QObject, private WindowHands, private robot::Surrou
   void AimKey(QWidget& widget) override;
   void Choose(QAction& action) override;
 
-  // The surroundings. A demonstration leaves the serial port alone.
+  // The surroundings. The port of the machine is left alone, so it has no state to set, and it is
+  // the board that sends.
   void QueueAnswer(BoxAnswer answer) override { answers_.push_back(answer); }
-  void QueuePath(std::optional<std::string> path) override { paths_.push_back(std::move(path)); }
+  void QueuePath(std::optional<std::string> path) override;
   void SetPortState(int /*number*/, robot::PortState /*state*/) override {}
   void Feed(const std::string& /*bytes*/) override {}
   void Pass(int milliseconds) override;
@@ -87,6 +89,7 @@ class Demonstration : public QObject, private WindowHands, private robot::Surrou
   QtOutside& outside_;
   CaptionBar bar_;
   QTimer timer_;
+  QTemporaryDir folder_;
   QStringList lines_;
   std::deque<robot::Words> line_;
   std::ostringstream transcript_;

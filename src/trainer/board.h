@@ -24,9 +24,9 @@ class Board {
   Event Take(char character);
   /// How many bytes have been stored since this was last asked.
   std::size_t TakeStored() { return std::exchange(stored_, 0); }
-  /// All bytes ever stored from address `first` to `last`, as records of up to sixteen bytes with
-  /// CR LF between them, the end record last.
-  std::string Image(std::uint16_t first, std::uint16_t last) const;
+  /// All bytes ever stored from address `first` to `last`, by default all there are, as records of
+  /// up to sixteen bytes with CR LF between them, the end record last.
+  std::string Image(std::uint16_t first = 0, std::uint16_t last = 0xFFFF) const;
 
  private:
   Event TakeRecord();

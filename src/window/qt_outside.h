@@ -6,6 +6,7 @@
 
 #include "platform/outside.h"
 #include "window/gate.h"
+#include "window/port_switch.h"
 #include "window/program_icon.h"
 #include "window/qt_clock.h"
 #include "window/qt_dialogs.h"
@@ -22,6 +23,7 @@ class QtOutside {
 
   Outside& ports() { return ports_; }
   Gate& gate() { return gate_; }
+  PortSwitch& serial_port() { return serial_port_; }
   QtClock& clock() { return clock_; }
   QtEventLoop& event_loop() { return event_loop_; }
 
@@ -29,7 +31,8 @@ class QtOutside {
   Gate gate_;
   QtMessageBoxes boxes_;
   QtFileDialogs file_dialogs_;
-  QtSerialPort serial_port_{[this] { event_loop_.Turn(); }};
+  QtSerialPort machine_port_{[this] { event_loop_.Turn(); }};
+  PortSwitch serial_port_{machine_port_};
   QtClock clock_{gate_};
   QtPrinter printer_;
   QtEventLoop event_loop_{gate_,

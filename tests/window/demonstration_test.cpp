@@ -45,8 +45,8 @@ std::string Cells(const Grid& grid) {
 }
 
 TEST_F(DemonstrationTest, EveryOneEndsInTheWindowAsOnTheModels) {
-  for (const char* name :
-       {"first-program", "loop", "subroutine", "equivalents", "simulator", "find-replace"}) {
+  for (const char* name : {"first-program", "loop", "subroutine", "equivalents", "simulator",
+                           "find-replace", "link"}) {
     QFile file(QString(":/demos/%1.robot").arg(name));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name;
     std::istringstream script(file.readAll().toStdString());
@@ -56,7 +56,9 @@ TEST_F(DemonstrationTest, EveryOneEndsInTheWindowAsOnTheModels) {
     session().FileChanged = false;
     show_me_.Begin(name);
     ASSERT_TRUE(QTest::qWaitFor([this] { return IsOver(); }, kLongestMs)) << name;
-    EXPECT_EQ(Cells(session().Table1), Cells(robot.quilla().panel()->session().Table1)) << name;
+    const Session& model = robot.quilla().panel()->session();
+    EXPECT_EQ(Cells(session().Table1), Cells(model.Table1)) << name;
+    EXPECT_EQ(session().HexList.items(), model.HexList.items()) << name;
     EXPECT_EQ(session().CurrentPanelState, PanelState::kReady) << name;
   }
 }

@@ -88,6 +88,7 @@ TEST_P(ExampleTest, AssemblesAndComesToItsResult) {
 }
 
 TEST(DemonstrationTest, EveryOneCanBePlayedToItsEnd) {
+  const ScratchFolder folder(kExamples / "none");
   for (const std::string& name : NamesIn("demos")) {
     std::ifstream script(kExamples / "demos" / (name + ".robot"));
     std::ostringstream transcript;

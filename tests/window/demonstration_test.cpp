@@ -10,6 +10,7 @@
 
 #include "demo/show_me.h"
 #include "robot/robot.h"
+#include "scenario.h"
 #include "window/when_open.h"
 
 namespace quilla {
@@ -45,6 +46,7 @@ std::string Cells(const Grid& grid) {
 }
 
 TEST_F(DemonstrationTest, EveryOneEndsInTheWindowAsOnTheModels) {
+  const robot::ScratchFolder folder("");
   for (const char* name : {"first-program", "loop", "subroutine", "equivalents", "simulator",
                            "find-replace", "link"}) {
     QFile file(QString(":/demos/%1.robot").arg(name));

@@ -4,9 +4,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
+#include <QTreeView>
 
 #include "window/qt_text.h"
 
@@ -114,6 +116,13 @@ QString QtFilter(const std::string& filter) {
   return name + " (" + QString(parts[1]).replace(';', ' ') + ')';
 }
 
+void MakeRoomForColumns(QFileDialog& dialog) {
+  dialog.resize(kWidthInDigits * dialog.fontMetrics().horizontalAdvance(u'0'), dialog.height());
+  for (const QTreeView* list : dialog.findChildren<QTreeView*>()) {
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
+}
+
 // Qt's dialogs keep a file of settings in the user's folder; in a place that is no folder they
 // cannot.
 QtFileDialogs::QtFileDialogs() {
@@ -128,7 +137,7 @@ std::optional<std::string> QtFileDialogs::Choose(const FileDialogRequest& reques
   const bool must_exist = !saves && (request.flags & kFileMustExist) != 0;
   dialog.setFileMode(must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // it would ask about the name that is typed
-  dialog.resize(kWidthInDigits * dialog.fontMetrics().horizontalAdvance(u'0'), dialog.height());
+  MakeRoomForColumns(dialog);
   if (saves) FillIn(dialog, ToQt(request.name));
   while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
     const QString path = dialog.selectedFiles().constFirst();

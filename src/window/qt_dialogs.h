@@ -6,6 +6,8 @@
 
 #include "platform/dialogs.h"
 
+class QFileDialog;
+
 namespace quilla {
 
 class QtMessageBoxes : public MessageBoxes {
@@ -21,6 +23,9 @@ class QtFileDialogs : public FileDialogs {
  private:
   QString folder_;  // where the last file was chosen
 };
+
+/// Gives a file dialog, before it opens, the width that its list of files takes.
+void MakeRoomForColumns(QFileDialog& dialog);
 
 /// A filter such as "Hex Files(*.hex)|*.hex" in the form that Qt takes: "Hex Files (*.hex)".
 QString QtFilter(const std::string& filter);

@@ -9,6 +9,7 @@
 #include <QSaveFile>
 
 #include "platform/failure.h"
+#include "window/qt_dialogs.h"
 #include "window/qt_text.h"
 #include "window/sheet.h"
 
@@ -28,6 +29,7 @@ QString AskForPdf(const QString& name) {
                      "PDF Files (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
+  MakeRoomForColumns(dialog);
   dialog.selectFile(QFileInfo(name).completeBaseName() + ".pdf");
   while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
     QString path = dialog.selectedFiles().constFirst();

@@ -6,12 +6,14 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 #include <QWindow>
 #include <functional>
 #include <map>
@@ -142,6 +144,8 @@ TEST(QtFileDialogsTest, SavingBeginsWithANameAndAsksOfTheFileThatIsWritten) {
   WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "Pgm1.baf");
     EXPECT_EQ(dialog.findChild<QLineEdit*>()->selectedText(), "Pgm1");
+    const QTreeView& list = *dialog.findChild<QTreeView*>();
+    EXPECT_EQ(list.header()->sectionResizeMode(3), QHeaderView::ResizeToContents);
     WhenOpen<QMessageBox>(go_on_from_no_folder);
     enter(dialog, in_folder("none/b.baf"));
   });

@@ -1,6 +1,7 @@
 #include "window/bindings.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
 #include <functional>
@@ -8,6 +9,7 @@
 #include <memory>
 #include <utility>
 
+#include "window/accessible_names.h"
 #include "window/colors.h"
 #include "window/key_button.h"
 #include "window/qt_text.h"
@@ -56,6 +58,7 @@ Mirror& Show(
     Mirror::Refresh refresh = [](Property) {}) {
   form.Register(control, widget);
   widget.setToolTip(ToQt(control.tool_tip()));
+  widget.setAccessibleName(AccessibleNameOf(control));
   return *new Mirror(control, widget, [&, refresh = std::move(refresh)](Property property) {
     if (property == Property::kEnabled) {
       widget.setEnabled(control.enabled());
@@ -134,6 +137,25 @@ void BindHolding(Gate& gate, Button& button, QAbstractButton& widget, Mirror& sh
   });
 }
 
+// The arrows choose the next option or the one before. Qt's own way would take the focus back from
+// where choosing has put it.
+bool ChooseByArrow(const QRadioButton& from, const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  const bool back = key == Qt::Key_Up || key == Qt::Key_Left;
+  if (!back && key != Qt::Key_Down && key != Qt::Key_Right) return false;
+  auto options =
+      from.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+  if (back) std::reverse(options.begin(), options.end());
+  const auto next = std::find_if(
+      std::find(options.begin(), options.end(), &from) + 1, options.end(),
+      [](const QRadioButton* option) { return option->isVisible() && option->isEnabled(); });
+  if (next == options.end()) return true;
+  (*next)->setFocus(back ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+  (*next)->click();
+  return true;
+}
+
 bool IsClick(const QEvent& event, const QWidget& widget) {
   if (event.type() != QEvent::MouseButtonRelease) return false;
   const auto& mouse = static_cast<const QMouseEvent&>(event);
@@ -145,7 +167,10 @@ bool IsClick(const QEvent& event, const QWidget& widget) {
 void Bind(FormMirror& mirror, Button& button, QAbstractButton& widget) {
   Gate& gate = mirror.gate();
   Mirror& shown = Show(mirror, button, widget, [&](Property property) {
-    if (property == Property::kCaption) widget.setText(ToQt(button.caption()));
+    if (property != Property::kCaption) return;
+    widget.setText(ToQt(button.caption()));
+    // A key with another name than its caption shows its state by that.
+    if (!widget.accessibleName().isEmpty()) widget.setAccessibleDescription(widget.text());
   });
   QObject::connect(&widget, &QAbstractButton::clicked, &shown,
                    [&] { gate.Enter([&] { button.Choose(); }); });
@@ -161,6 +186,7 @@ void Bind(FormMirror& mirror, Option& option, QRadioButton& widget) {
     mirror.gate().Enter([&] { option.Choose(); });
     widget.setChecked(option.checked());
   });
+  shown.Watch([&widget](const QEvent& event) { return ChooseByArrow(widget, event); });
 }
 
 void Bind(FormMirror& mirror, Label& label, QLabel& widget) {

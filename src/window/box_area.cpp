@@ -74,6 +74,12 @@ bool BoxArea::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
+// A page needs another room.
+bool BoxArea::event(QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QWidget::event(event);
+}
+
 void BoxArea::resizeEvent(QResizeEvent* /*event*/) {
   for (QWidget* page : pages_) page->setGeometry(rect());
 }

@@ -35,6 +35,7 @@ class BoxArea : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -2,15 +2,17 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QLabel>
 #include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <string_view>
 
 #include "window/bindings.h"
+#include "window/box_hints.h"
 #include "window/box_page.h"
 #include "window/keypad.h"
+#include "window/qt_text.h"
+#include "window/quiet_label.h"
 
 namespace quilla {
 namespace {
@@ -18,6 +20,7 @@ namespace {
 using Names = std::initializer_list<std::string_view>;
 
 constexpr int kMargin = 12;
+constexpr int kColumnGap = 24;
 constexpr int kInputWidthInDigits = 16;
 constexpr int kCommentWidthInDigits = 80;
 
@@ -28,12 +31,23 @@ void AddRow(QVBoxLayout* column, FormMirror& mirror, QWidget* page, Names names)
   column->addLayout(row);
 }
 
-/// A page that is filled from the top left corner on.
+/// The left part of a page, filled from the top on.
 QVBoxLayout* NewColumn(QWidget* page) {
-  auto* const column = new QVBoxLayout(page);
-  column->setContentsMargins(kMargin, 4, kMargin, 4);
+  auto* const column = new QVBoxLayout;
   column->setSpacing(4);
+  static_cast<QBoxLayout*>(page->layout())->addLayout(column);
   return column;
+}
+
+/// What the box says of itself, to the right of the rest and in line as the controls change.
+void AddHint(FormMirror& mirror, const Box& box, QWidget* page) {
+  auto* const hint = new QuietLabel(HintOf(mirror, box), page);
+  hint->setObjectName(ToQt(box.name()) + "Hint");
+  hint->MayBeCut();
+  QObject::connect(&mirror.gate(), &Gate::Left, hint, [&mirror, &box, hint] {
+    if (hint->isVisible()) hint->setText(HintOf(mirror, box));
+  });
+  static_cast<QBoxLayout*>(page->layout())->addWidget(hint, 1, Qt::AlignTop);
 }
 
 // Two rows of keys, register pairs one above the other.
@@ -56,7 +70,6 @@ void FillRegisterPage(FormMirror& mirror, BoxPage* page) {
     }
   }
   column->addWidget(keys);
-  column->addWidget(new QLabel("Or type the letter: S for SP, P for PSW.", page));
   column->addStretch();
   page->set_keys(keys);
   page->setFocusPolicy(Qt::StrongFocus);
@@ -65,9 +78,7 @@ void FillRegisterPage(FormMirror& mirror, BoxPage* page) {
 // The value on the left, sixteen digit keys as on a trainer's keyboard, and what takes the value.
 void FillDigitPage(FormMirror& mirror, BoxPage* page, std::string_view caption,
                    std::string_view value, std::string_view keys_name, std::string_view accept) {
-  auto* const row = new QHBoxLayout(page);
-  row->setContentsMargins(kMargin, 4, kMargin, 4);
-  row->setSpacing(16);
+  auto* const row = static_cast<QBoxLayout*>(page->layout());
   auto* const display = new QVBoxLayout;
   display->addWidget(Make(mirror, page, caption));
   display->addWidget(MakeBigDigits(mirror, page, value));
@@ -80,7 +91,6 @@ void FillDigitPage(FormMirror& mirror, BoxPage* page, std::string_view caption,
   actions->addWidget(Make(mirror, page, accept));
   actions->addStretch();
   row->addLayout(actions);
-  row->addStretch();
   page->set_keys(keys);
 }
 
@@ -196,7 +206,11 @@ QWidget* BuildBoxPage(FormMirror& mirror, Box& box, QWidget* parent) {
   const auto* const layout = std::find_if(kLayouts.begin(), kLayouts.end(),
                                           [&](const auto& each) { return each.box == box.name(); });
   if (layout == kLayouts.end()) qFatal("no layout for %s", box.name().c_str());
+  auto* const row = new QHBoxLayout(page);
+  row->setContentsMargins(kMargin, 4, kMargin, 4);
+  row->setSpacing(kColumnGap);
   layout->fill(mirror, page);
+  AddHint(mirror, box, page);
   Bind(mirror, box, *page);
   return page;
 }

@@ -1,6 +1,7 @@
 #include "window/cell_delegate.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -10,11 +11,11 @@
 
 #include "program/vocabulary.h"
 #include "window/colors.h"
+#include "window/grid_model.h"
 
 namespace quilla {
 namespace {
 
-constexpr int kTextMargin = 5;
 constexpr float kSelectedTint = 0.45F;
 constexpr double kFocusWidth = 2;
 constexpr int kLongestTip = 2000;
@@ -56,11 +57,11 @@ Look LookOf(CellColor back, CellColor fore, const QPalette& palette, QPalette::C
   Look look;
   look.fore = palette.color(text);
   if (back == kSelectionColor) {
-    look.back = palette.color(QPalette::Highlight);
+    look.back = SelectedGround(palette);
     look.fore = palette.color(QPalette::HighlightedText);
     look.mark = kArrow;
   } else if (back.is_painted()) {
-    look.back = FromBlueGreenRed(static_cast<unsigned>(back.value()));
+    look.back = GroundOf(back, palette);
     look.fore = TextOn(*look.back);
     for (const PaintedLook& painted : kPaintedLooks) {
       if (painted.color != back) continue;
@@ -84,14 +85,18 @@ QRect DrawMark(QPainter& painter, const Look& look, QRect area) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(look.fore, side * 0.22, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPolyline(line);
-  area.setRight(static_cast<int>(corner.x()) - kTextMargin);
+  area.setRight(static_cast<int>(corner.x()) - kCellMargin);
   return area;
 }
 
-void DrawText(QPainter& painter, const Look& look, const QRect& area,
-              const QStyleOptionViewItem& option, const QModelIndex& index) {
-  QFont font = option.font;
+/// How far below the top of its letters the middle of a font's line lies.
+int Middle(const QFontMetrics& metrics) { return metrics.ascent() - metrics.height() / 2; }
+
+// Texts in all fonts stand on the line of `pitch`, the font of the table.
+void DrawText(QPainter& painter, const Look& look, QRect area, QFont font,
+              const QFontMetrics& pitch, const QModelIndex& index) {
   font.setBold(look.bold);
+  area.translate(0, Middle(pitch) - Middle(QFontMetrics(font)));
   painter.setFont(font);
   painter.setPen(look.fore);
   const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
@@ -105,21 +110,27 @@ void DrawText(QPainter& painter, const Look& look, const QRect& area,
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   if (index.row() >= grid_.Rows()) return;
-  // The view has filled the ground of a selected row.
   const bool selected = option.state.testFlag(QStyle::State_Selected);
   const Look look = LookOf(grid_.BackColor(index.row(), index.column()),
                            grid_.ForeColor(index.row(), index.column()), option.palette,
                            selected ? QPalette::HighlightedText : QPalette::Text);
   painter->save();
-  if (look.back) painter->fillRect(option.rect, *look.back);
+  if (look.back) {
+    painter->fillRect(option.rect, *look.back);
+  } else {
+    const bool has_cursor = CursorColumn(grid_, index.row()) >= 0;
+    painter->fillRect(option.rect, selected     ? SelectedGround(option.palette)
+                                   : has_cursor ? CursorRowGround(option.palette)
+                                                : option.palette.color(QPalette::Base));
+  }
   if (look.back && selected) {
     QColor tint = option.palette.color(QPalette::Highlight);
     tint.setAlphaF(kSelectedTint);
     painter->fillRect(option.rect, tint);
   }
-  QRect area = option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
+  QRect area = option.rect.adjusted(kCellMargin, 0, -kCellMargin, 0);
   if (!look.mark.empty()) area = DrawMark(*painter, look, area);
-  DrawText(*painter, look, area, option, index);
+  DrawText(*painter, look, area, FontOf(option, index), option.fontMetrics, index);
   if (option.state.testFlag(QStyle::State_HasFocus)) {
     const bool has_ground = look.back || selected;
     painter->setPen(
@@ -129,9 +140,15 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->restore();
 }
 
+QFont CellDelegate::FontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  QFont font = option.font;
+  if (index.column() == prose_column_) font.setFamily(QApplication::font().family());
+  return font;
+}
+
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  return {option.fontMetrics.horizontalAdvance(index.data().toString()) + 2 * kTextMargin,
-          option.fontMetrics.height()};
+  const QFontMetrics metrics(FontOf(option, index));
+  return {metrics.horizontalAdvance(index.data().toString()) + 2 * kCellMargin, metrics.height()};
 }
 
 bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,

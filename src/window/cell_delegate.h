@@ -9,12 +9,18 @@
 
 namespace quilla {
 
+/// The room on either side of a cell's text, in pixels.
+inline constexpr int kCellMargin = 5;
+
 class CellDelegate : public QAbstractItemDelegate {
   Q_OBJECT
 
  public:
   explicit CellDelegate(const Grid& grid, QObject* parent)
       : QAbstractItemDelegate(parent), grid_(grid) {}
+
+  /// Has the texts of a column, which are sentences, not in fixed pitch as the others are.
+  void set_prose_column(int column) { prose_column_ = column; }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
@@ -24,7 +30,10 @@ class CellDelegate : public QAbstractItemDelegate {
                  const QModelIndex& index) override;
 
  private:
+  QFont FontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
   const Grid& grid_;
+  int prose_column_ = -1;
 };
 
 }  // namespace quilla

@@ -4,6 +4,7 @@
 
 #include "window/bindings.h"
 #include "window/keypad.h"
+#include "window/quiet_label.h"
 
 namespace quilla {
 namespace {
@@ -20,8 +21,8 @@ DataWindow::DataWindow(Gate& gate, EventLoop& event_loop, Form& form)
   setWindowModality(Qt::ApplicationModal);
   const auto make = [this](const char* name) { return Make(mirror_, this, name); };
   GridView* const table = MakeTable(mirror_, this, "DataTable");
-  table->setMinimumSize(DigitsWidth(*table, kTableWidthInDigits),
-                        kTableRows * table->fontMetrics().lineSpacing());
+  table->setMinimumSize(DigitsWidth(*this, kTableWidthInDigits),
+                        kTableRows * fontMetrics().lineSpacing());
   auto* const type = new QHBoxLayout;
   type->addWidget(make("Label5"));
   type->addWidget(MakeBold(mirror_, this, "DataTypeLabel"), 1);
@@ -30,6 +31,11 @@ DataWindow::DataWindow(Gate& gate, EventLoop& event_loop, Form& form)
   for (int i = 0; i < kOptions; ++i) {
     side->addWidget(Make(mirror_, this, "DataType", i), 0, Qt::AlignLeft);
   }
+  side->addWidget(
+      new QuietLabel("Choose a type, then drag over\nthe rows that have it, or\n"
+                     "Shift with the arrows.\n\n"
+                     "Done is grey until a row is an\ninstruction or a data byte.",
+                     this));
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(make("DoneButton"));

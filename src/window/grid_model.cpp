@@ -4,11 +4,20 @@
 #include <algorithm>
 #include <utility>
 
+#include "window/colors.h"
 #include "window/qt_text.h"
 
 namespace quilla {
 
-GridModel::GridModel(Grid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {
+int CursorColumn(const Grid& grid, int row) {
+  for (int column = 0; column < grid.Cols(); ++column) {
+    if (grid.BackColor(row, column) == kSelectionColor) return column;
+  }
+  return -1;
+}
+
+GridModel::GridModel(Grid& grid, QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid), meaning_(MeaningOf) {
   grid_.grid_observer = this;
   for (int row = 0; row < grid_.Rows() && cursor_row_ == kNone; ++row) {
     if (HasCursor(row)) cursor_row_ = row;
@@ -30,11 +39,14 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     return ToQt(grid_.TextMatrix(index.row(), index.column()));
   }
   if (role == Qt::TextAlignmentRole) return AlignmentOf(index.column());
+  if (role == Qt::AccessibleDescriptionRole) {
+    return meaning_(grid_.BackColor(index.row(), index.column()));
+  }
   return {};
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal) return {};
+  if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? QVariant(section) : QVariant();
   if (role == Qt::TextAlignmentRole) return AlignmentOf(section);
   if (role != Qt::DisplayRole) return {};
   if (section < headings_.size()) return headings_[section];
@@ -52,11 +64,10 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
                          : Qt::NoItemFlags;
 }
 
-bool GridModel::HasCursor(int row) const {
-  for (int column = 0; column < grid_.Cols(); ++column) {
-    if (grid_.BackColor(row, column) == kSelectionColor) return true;
-  }
-  return false;
+QModelIndex GridModel::cursor() const {
+  if (cursor_row_ == kNone || cursor_row_ >= grid_.Rows()) return {};
+  const int column = CursorColumn(grid_, cursor_row_);
+  return column < 0 ? QModelIndex() : index(cursor_row_, column);
 }
 
 void GridModel::RowsChanged(int first, int last) {
@@ -105,6 +116,7 @@ void GridModel::ReportTouchedRows() {
   const int last = std::min(touched_last_, grid_.Rows() - 1);
   if (first > last) return;
   Q_EMIT dataChanged(index(first, 0), index(last, grid_.Cols() - 1));
+  Q_EMIT headerDataChanged(Qt::Vertical, first, last);
   if (first < grid_.FixedRows()) Q_EMIT headerDataChanged(Qt::Horizontal, 0, grid_.Cols() - 1);
 }
 

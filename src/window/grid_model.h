@@ -5,10 +5,15 @@
 #include <QAbstractTableModel>
 #include <QBasicTimer>
 #include <QStringList>
+#include <functional>
+#include <utility>
 
 #include "platform/grid.h"
 
 namespace quilla {
+
+/// The column of the cell with the selection colour in a row, or -1.
+int CursorColumn(const Grid& grid, int row);
 
 class GridModel : public QAbstractTableModel, public GridObserver {
   Q_OBJECT
@@ -27,7 +32,11 @@ class GridModel : public QAbstractTableModel, public GridObserver {
 
   /// Gives a grid whose rows hold no headings these.
   void set_headings(const QStringList& headings) { headings_ = headings; }
+  /// Says what the colours of this grid's cells mean, to those who cannot see them.
+  void set_meaning(std::function<QString(CellColor)> meaning) { meaning_ = std::move(meaning); }
   const Grid& grid() const { return grid_; }
+  /// The cell with the selection colour, or none.
+  QModelIndex cursor() const;
 
  Q_SIGNALS:
   /// The cell with the selection colour has been painted in this row, or has moved to it.
@@ -47,12 +56,13 @@ class GridModel : public QAbstractTableModel, public GridObserver {
 
   void ReportTouchedRows();
   QVariant AlignmentOf(int column) const;
-  bool HasCursor(int row) const;
+  bool HasCursor(int row) const { return CursorColumn(grid_, row) >= 0; }
 
   static constexpr int kNone = -1;
 
   Grid& grid_;
   QStringList headings_;
+  std::function<QString(CellColor)> meaning_;
   // The rows touched since the last report, reported together when the handler is over.
   int touched_first_ = kNone;
   int touched_last_ = kNone;

@@ -1,5 +1,6 @@
 #include "window/grid_view.h"
 
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -9,17 +10,21 @@
 #include <utility>
 
 #include "window/cell_delegate.h"
+#include "window/gutter.h"
 
 namespace quilla {
 namespace {
 
-constexpr int kRowPadding = 6;
+constexpr int kRowPadding = 3;
 constexpr int kScrollIntervalMs = 40;
 /// A longer pause ends the typing of an address.
 constexpr int kLongestPauseMs = 1000;
 constexpr int kHexadecimal = 16;
-/// A column of this width must hold one digit.
-constexpr double kTwipsPerDigit = 90;
+/// A column of this width must hold an opcode of three bytes.
+constexpr double kOpcodeTwips = 1080;
+constexpr int kOpcodeDigits = 12;
+/// The greatest height of a row that has room, in heights of its letters.
+constexpr double kHighestRow = 1.7;
 /// The width of a column that was given none.
 constexpr int kUsualTwips = 1080;
 /// Rows kept in view beyond the cursor.
@@ -36,12 +41,17 @@ RowRange Between(int one, int other) { return {std::min(one, other), std::max(on
 GridView::GridView(Gate& gate, Grid& grid, QWidget* parent)
     : QTableView(parent), gate_(gate), grid_(grid), model_(new GridModel(grid, this)) {
   setItemDelegate(new CellDelegate(grid, this));
+  QFont letters;
+  letters.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+  setFont(letters);
+  setVerticalHeader(new Gutter(this));
   SetUpHeading();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setMinimumSectionSize(1);
   verticalHeader()->hide();
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  verticalHeader()->setMinimumSectionSize(1);
+  setCornerButtonEnabled(false);
+  setVerticalScrollMode(ScrollPerPixel);
+  viewport()->setBackgroundRole(QPalette::Window);  // of what lies below the last row
   setSelectionMode(NoSelection);
   setEditTriggers(NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -94,15 +104,52 @@ void GridView::SetAddressDigits(int count) {
   setFocusPolicy(Qt::StrongFocus);
 }
 
+void GridView::ShowLineNumbers() { verticalHeader()->show(); }
+
+void GridView::SetProse(int column) {
+  static_cast<CellDelegate*>(itemDelegate())->set_prose_column(column);
+}
+
 void GridView::FitRows() {
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
-  horizontalHeader()->setFixedHeight(fontMetrics().height() + kRowPadding);
+  const int letters = fontMetrics().height();
+  int height = std::max(letters + kRowPadding, least_row_height_);
+  if (rows_to_fill_ > 0) {
+    const int filling = (viewport()->height() + rows_to_fill_ - 1) / rows_to_fill_;
+    height = std::max(height, std::min(filling, qRound(letters * kHighestRow)));
+  }
+  horizontalHeader()->setFixedHeight(letters + kRowPadding);
+  if (verticalHeader()->defaultSectionSize() == height) return;
+  verticalHeader()->setDefaultSectionSize(height);
+  Q_EMIT RowsFitted(height);
+}
+
+void GridView::SetLeastRowHeight(int height) {
+  least_row_height_ = height;
+  FitRows();
+}
+
+void GridView::SetExtent(int digits, int rows, Qt::Orientations fixed) {
+  extent_ = {digits, rows};
+  fixed_ = fixed;
+  FitExtent();
+}
+
+void GridView::FitExtent() {
+  if (extent_.isEmpty()) return;
+  const int frame = 2 * frameWidth();
+  const QSize size(extent_.width() * fontMetrics().horizontalAdvance(u'0') + frame,
+                   extent_.height() * verticalHeader()->defaultSectionSize() +
+                       horizontalHeader()->minimumHeight() + frame);
+  setMinimumSize(size);
+  if (fixed_.testFlag(Qt::Horizontal)) setMaximumWidth(size.width());
+  if (fixed_.testFlag(Qt::Vertical)) setMaximumHeight(size.height());
 }
 
 void GridView::LayOutColumns() {
   int total = 0;
   for (int column = 0; column < grid_.Cols(); ++column) total += TwipsOf(grid_, column);
-  const double needed = fontMetrics().horizontalAdvance(u'0') / kTwipsPerDigit;
+  const int opcode = fontMetrics().horizontalAdvance(QString(kOpcodeDigits, u'0'));
+  const double needed = (opcode + 2 * (kCellMargin + 1)) / kOpcodeTwips;
   const int room = viewport()->width();
   const double scale = std::max(needed, static_cast<double>(room) / total);
   int left = room;
@@ -117,6 +164,7 @@ void GridView::LayOutColumns() {
 
 void GridView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
+  FitRows();
   LayOutColumns();
 }
 
@@ -124,6 +172,7 @@ void GridView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
   FitRows();
+  FitExtent();
   LayOutColumns();
 }
 
@@ -137,6 +186,7 @@ void GridView::SyncWithGrid() {
   const auto shape =
       grid_.pointer() == GridPointer::kPick ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (viewport()->cursor().shape() != shape) viewport()->setCursor(shape);
+  if (hasFocus() && !currentIndex().isValid()) Land();
   if (press_row_ != kNone || key_anchor_.isValid()) return;
   ShowRows(grid_.SelectedRows ? grid_.SelectedRows() : MouseRows());
 }
@@ -231,11 +281,23 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
   EndDrag();
 }
 
-void GridView::focusInEvent(QFocusEvent* event) {
-  if (!currentIndex().isValid() && grid_.Rows() > 0) {
-    selectionModel()->setCurrentIndex(model()->index(grid_.Row(), grid_.Col()),
-                                      QItemSelectionModel::NoUpdate);
+void GridView::Land() {
+  QModelIndex place = model_->cursor();
+  if (!place.isValid()) {
+    int column = grid_.Col();
+    while (column + 1 < grid_.Cols() && isColumnHidden(column)) ++column;
+    place = model_->index(std::max(grid_.Row(), grid_.FixedRows()), column);
   }
+  selectionModel()->setCurrentIndex(place, QItemSelectionModel::NoUpdate);
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  const Qt::FocusReason reason = event->reason();
+  const bool is_back = reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason ||
+                       reason == Qt::PopupFocusReason;
+  const bool comes_to_cursor = !is_back && model_->cursor().isValid();
+  if (comes_to_cursor || !currentIndex().isValid()) Land();
+  scrollTo(currentIndex());
   QTableView::focusInEvent(event);
 }
 
@@ -253,7 +315,11 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const QModelIndex before = currentIndex();
   QTableView::keyPressEvent(event);
   if ((event->modifiers() & Qt::ShiftModifier) == 0 || currentIndex().row() == before.row()) return;
-  if (!key_anchor_.isValid()) key_anchor_ = before;
+  if (!key_anchor_.isValid()) {
+    // Where there is a cursor, rows are selected in its column.
+    const QModelIndex cursor = model_->cursor();
+    key_anchor_ = cursor.isValid() ? before.siblingAtColumn(cursor.column()) : before;
+  }
   ShowRows(Between(key_anchor_.row(), currentIndex().row()));
 }
 

@@ -7,6 +7,8 @@
 #include <QElapsedTimer>
 #include <QPersistentModelIndex>
 #include <QTableView>
+#include <functional>
+#include <utility>
 
 #include "platform/grid.h"
 #include "window/gate.h"
@@ -25,9 +27,28 @@ class GridView : public QTableView {
   /// Has digits that are typed lead to the row of that address, where the rows are in the order of
   /// their addresses; `count` digits are a whole one.
   void SetAddressDigits(int count);
+  /// Shows the numbers of the rows.
+  void ShowLineNumbers();
+  /// Has the texts of a column, which are sentences, not in fixed pitch as the others are.
+  void SetProse(int column);
+  /// Where the view has room, rows are higher, up to a measure, so that this many fill it.
+  void set_rows_to_fill(int rows) { rows_to_fill_ = rows; }
+  /// Rows are no lower than this, whatever their letters.
+  void SetLeastRowHeight(int height);
+  /// Says what the colours of the cells mean, to those who cannot see them.
+  void set_meaning(std::function<QString(CellColor)> meaning) {
+    model_->set_meaning(std::move(meaning));
+  }
+  /// Gives the view room for so many digits side by side and so many rows, whatever their size, and
+  /// no more than that in the directions of `fixed`.
+  void SetExtent(int digits, int rows, Qt::Orientations fixed);
   /// Brings the selection and the pointer shape in line with the grid.
   void SyncWithGrid();
   void keyboardSearch(const QString& digits) override;
+
+ Q_SIGNALS:
+  /// The rows have been given this height.
+  void RowsFitted(int height);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -47,6 +68,9 @@ class GridView : public QTableView {
   void HideHeadingRows();
   void LayOutColumns();
   void FitRows();
+  void FitExtent();
+  /// Makes the cell with the cursor the current one, or else one that can be seen.
+  void Land();
   void ShowRows(RowRange range);
   RowRange MouseRows() const;
   void DragTo(int y);
@@ -67,6 +91,10 @@ class GridView : public QTableView {
   QPersistentModelIndex key_anchor_;  // where rows began to be selected with the keys
   QPoint pointer_;
   QBasicTimer scroll_timer_;
+  int rows_to_fill_ = 0;
+  int least_row_height_ = 0;
+  QSize extent_;  // in digits and rows
+  Qt::Orientations fixed_;
   int address_digits_ = 0;
   QString typed_;
   QElapsedTimer since_typed_;

@@ -13,6 +13,7 @@
 #include "isa/instruction_set.h"
 #include "window/bindings.h"
 #include "window/qt_text.h"
+#include "window/quiet_label.h"
 
 namespace quilla {
 namespace {
@@ -59,7 +60,11 @@ QLayout* InstructionPage::MakeHintLine() {
   line->addSpacing(kFamilyGap);
   line->addWidget(MakeBold(mirror_, this, "InstructionLabel", 0));
   line->addWidget(Make(mirror_, this, "InstructionLabel", 1));
-  line->addStretch();
+  line->addSpacing(kFamilyGap);
+  auto* const how = new QuietLabel("Click a key, or type its name and press Enter.", this);
+  how->setAlignment(Qt::AlignRight);
+  how->MayBeCut();
+  line->addWidget(how, 1);
   return line;
 }
 

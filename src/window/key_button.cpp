@@ -32,7 +32,7 @@ QSize KeyButton::sizeHint() const {
   const QFontMetrics metrics = fontMetrics();
   const int width =
       std::max(metrics.horizontalAdvance(text()), kFewestDigits * metrics.horizontalAdvance(u'0'));
-  return {width + 2 * kSidePadding, metrics.height() + 2 * kTopPadding};
+  return {width + 2 * kSidePadding, std::max(metrics.height() + 2 * kTopPadding, kLeastKeyHeight)};
 }
 
 }  // namespace quilla

@@ -7,6 +7,9 @@
 
 namespace quilla {
 
+/// A key is no lower than this, in pixels: what a finger or an unsteady hand still meets.
+inline constexpr int kLeastKeyHeight = 24;
+
 class PanelButton : public QPushButton {
   Q_OBJECT
 

@@ -1,11 +1,14 @@
 #include "window/main_window.h"
 
 #include <QBoxLayout>
+#include <QComboBox>
 #include <QEvent>
 #include <QFrame>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 
+#include "program/rows.h"
 #include "window/bindings.h"
 #include "window/box_pages.h"
 #include "window/menus.h"
@@ -24,6 +27,11 @@ constexpr const char* kCancelButton = "TableCancelButton";
 // The size that the window asks for, in widths of a digit and heights of a line.
 constexpr int kPreferredDigits = 175;
 constexpr int kPreferredLines = 56;
+
+bool TakesTyping(const QWidget& widget) {
+  return qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr;
+}
 
 }  // namespace
 
@@ -57,6 +65,9 @@ MainWindow::MainWindow(Gate& gate, EventLoop& event_loop, Form& form)
 QWidget* MainWindow::MakeProgramTable() {
   table_ = MakeTable(mirror_, this, kTable);
   table_->setFrameShape(QFrame::NoFrame);
+  table_->ShowLineNumbers();
+  table_->SetProse(kCommentColumn);
+  table_->set_rows_to_fill(kLeastRows);
   QStringList headings;
   for (int column = 0; column < mirror_.Get<Grid>(kTable).Cols(); ++column) {
     auto& label = mirror_.Get<Label>("HeadLabel", column);
@@ -133,13 +144,14 @@ void MainWindow::FocusHome() {
     instructions_->FocusLastKey();
     return;
   }
+  QWidget* home = nullptr;
   for (QWidget* widget : page == nullptr ? QWidgetList() : page->findChildren<QWidget*>()) {
     const bool takes_focus = (widget->focusPolicy() & Qt::TabFocus) != 0;
     if (!takes_focus || !widget->isVisible() || !widget->isEnabled()) continue;
-    widget->setFocus(Qt::OtherFocusReason);
-    return;
+    if (home == nullptr || TakesTyping(*widget)) home = widget;
+    if (TakesTyping(*home)) break;
   }
-  table_->setFocus(Qt::OtherFocusReason);
+  (home == nullptr ? table_ : home)->setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace quilla

@@ -5,6 +5,7 @@
 
 #include "window/bindings.h"
 #include "window/keypad.h"
+#include "window/quiet_label.h"
 
 namespace quilla {
 namespace {
@@ -47,6 +48,11 @@ RenumberWindow::RenumberWindow(Gate& gate, EventLoop& event_loop, Form& form)
   auto* const grid = new QGridLayout(this);
   grid->setHorizontalSpacing(kSpacing);
   grid->addLayout(options, 0, 0);
+  auto* const how = new QuietLabel(
+      "Click a name, or press Space on it, and give its number: digits, then Enter.\n"
+      "Done takes the new numbers over; closing the window leaves the old ones.",
+      this);
+  grid->addWidget(how, 3, 0, 1, 2);
   grid->addLayout(pages, 1, 0, 2, 1);
   grid->addWidget(MakeDigitKeys(), 1, 1, Qt::AlignTop);
   grid->addWidget(Make(mirror_, this, "DoneButton"), 2, 1, Qt::AlignBottom | Qt::AlignRight);
@@ -63,8 +69,8 @@ QWidget* RenumberWindow::MakePage(const PageNames& names) {
   auto* const column = new QVBoxLayout(page);
   column->setContentsMargins(0, 0, 0, 0);
   QWidget* const table = MakeTable(mirror_, page, names.table);
-  table->setMinimumSize(DigitsWidth(*table, kTableWidthInDigits),
-                        kTableRows * table->fontMetrics().lineSpacing());
+  table->setMinimumSize(DigitsWidth(*this, kTableWidthInDigits),
+                        kTableRows * fontMetrics().lineSpacing());
   column->addWidget(table, 1);
 
   auto* const edit = new QWidget(page);

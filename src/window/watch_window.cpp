@@ -1,12 +1,16 @@
 #include "window/watch_window.h"
 
+#include <QBoxLayout>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollArea>
 
+#include "program/vocabulary.h"
 #include "window/bindings.h"
+#include "window/key_button.h"
 #include "window/keypad.h"
+#include "window/quiet_label.h"
 #include "window/screen_room.h"
 
 namespace quilla {
@@ -17,44 +21,46 @@ constexpr Qt::WindowFlags kOwnedWindow = Qt::Dialog | Qt::WindowTitleHint |
                                          Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
                                          Qt::WindowCloseButtonHint;
 constexpr int kGap = 14;
+constexpr int kLineGap = 6;
 constexpr int kRegisterWidth = 26;
 constexpr int kCellWidth = 24;
 constexpr int kLineWidth = 24;
-constexpr int kInstructionWidth = 50;
+constexpr int kInstructionWidth = 46;
 constexpr int kInterruptRows = 7;
 constexpr int kFewestRows = 6;
-constexpr int kPreferredLines = 38;
+constexpr int kPreferredLines = 46;
 constexpr int kAddressDigits = 4;
 constexpr int kPortDigits = 2;
 
-/// Makes a table as high as its heading and so many rows.
-void ShowRows(GridView& table, int rows) {
-  const int row_height = table.verticalHeader()->defaultSectionSize();
-  const int heading = table.horizontalHeader()->minimumHeight();
-  table.setFixedHeight(heading + rows * row_height + 2 * table.frameWidth());
-  table.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+QString MeaningOfLine(CellColor color) {
+  if (color == kEnabledColor) return "enabled";
+  return color == kMaskedColor ? QString("masked") : QString();
 }
 
 }  // namespace
 
 WatchWindow::WatchWindow(Gate& gate, EventLoop& event_loop, Form& form)
     : QWidget(nullptr, kOwnedWindow), mirror_(gate, event_loop, form, *this) {
-  auto* const tables = new QHBoxLayout;
-  tables->setSpacing(kGap);
-  tables->addLayout(MakeTall("RegisterCaption", "RegisterTable", kRegisterWidth));
-  tables->addLayout(MakeTall("MemoryCaption", "MemoryTable", kCellWidth));
-  tables->addLayout(MakePorts());
-  auto* const keys = new QVBoxLayout;
-  keys->setSpacing(kGap);
-  keys->addLayout(MakeLines());
-  keys->addStretch();
-  keys->addWidget(MakeStartingAddress());
-  tables->addLayout(keys);
-  tables->addStretch();
+  // In the order of their use, which is the order in which Tab leads through them.
   auto* const content = new QWidget(this);
   auto* const column = new QVBoxLayout(content);
   column->setSpacing(kGap);
-  column->addLayout(MakeInstruction());
+  auto* const step = new QHBoxLayout;
+  step->setSpacing(2 * kGap);
+  step->addWidget(MakeStartingAddress(), 0, Qt::AlignTop);
+  step->addLayout(MakeInstruction(), 1);
+  column->addLayout(step);
+  auto* const tables = new QGridLayout;
+  tables->setHorizontalSpacing(kGap);
+  tables->setVerticalSpacing(kLineGap);
+  tables->addWidget(MakeHeadedTable("RegisterCaption", "RegisterTable", kRegisterWidth), 1, 0);
+  tables->addWidget(MakeBold(mirror_, this, "MemoryCaption"), 0, 1);
+  tables->addWidget(MakeTallTable("MemoryTable", kCellWidth), 1, 1);
+  tables->addWidget(MakeBold(mirror_, this, "PortCaption"), 0, 2);
+  tables->addLayout(MakePorts(), 1, 2);
+  tables->addLayout(MakeLines(), 1, 3);
+  tables->setColumnStretch(3, 1);
+  tables->setRowStretch(1, 1);
   column->addLayout(tables, 1);
   findChild<GridView*>("MemoryTable")->SetAddressDigits(kAddressDigits);
   findChild<GridView*>("PortTable")->SetAddressDigits(kPortDigits);
@@ -72,43 +78,47 @@ void WatchWindow::PutInScrollArea(QWidget& content) {
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(area);
-  const QSize wish(content.sizeHint().width(), kPreferredLines * fontMetrics().lineSpacing());
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const QSize wish(content.sizeHint().width() + bar, kPreferredLines * fontMetrics().lineSpacing());
   resize(wish.expandedTo(content.minimumSizeHint()).boundedTo(RoomOnScreen(*this)));
 }
 
-GridView* WatchWindow::MakeTableOfWidth(const char* name, int width_in_digits) {
+GridView* WatchWindow::MakeTallTable(const char* name, int width_in_digits) {
   GridView* const table = MakeTable(mirror_, this, name);
-  table->setFixedWidth(DigitsWidth(*table, width_in_digits));
+  table->SetExtent(width_in_digits, kFewestRows, Qt::Horizontal);
+  return table;
+}
+
+// The heading of its columns says what the caption says.
+GridView* WatchWindow::MakeHeadedTable(const char* caption, const char* name, int width_in_digits) {
+  GridView* const table = MakeTallTable(name, width_in_digits);
+  mirror_.Register(mirror_.Get<Label>(caption), *table->horizontalHeader());
   return table;
 }
 
 QLayout* WatchWindow::MakeInstruction() {
-  GridView* const table = MakeTableOfWidth("InstructionTable", kInstructionWidth);
-  ShowRows(*table, 1);
   auto* const line = new QHBoxLayout;
   line->setSpacing(kGap);
-  line->addWidget(table);
+  GridView* const table = MakeTable(mirror_, this, "InstructionTable");
+  table->SetExtent(kInstructionWidth, 1, Qt::Horizontal | Qt::Vertical);
   execute_ = Make(mirror_, this, "ExecuteButton");
   line->addWidget(execute_);
-  line->addWidget(Make(mirror_, this, "StepNoteLabel"), 1);
+  table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  line->addWidget(table);
+  line->addStretch();
   auto* const column = new QVBoxLayout;
+  column->setSpacing(kLineGap);
   column->addWidget(MakeBold(mirror_, this, "InstructionCaption"));
   column->addLayout(line);
-  return column;
-}
-
-QBoxLayout* WatchWindow::MakeTall(const char* caption, const char* table_name,
-                                  int width_in_digits) {
-  GridView* const table = MakeTableOfWidth(table_name, width_in_digits);
-  table->setMinimumHeight(kFewestRows * table->verticalHeader()->defaultSectionSize());
-  auto* const column = new QVBoxLayout;
-  column->addWidget(MakeBold(mirror_, this, caption));
-  column->addWidget(table, 1);
+  column->addWidget(Make(mirror_, this, "StepNoteLabel"));
+  column->addStretch(1);
   return column;
 }
 
 QLayout* WatchWindow::MakePorts() {
-  auto* const column = MakeTall("PortCaption", "PortTable", kCellWidth);
+  auto* const column = new QVBoxLayout;
+  column->setSpacing(kLineGap);
+  column->addWidget(MakeTallTable("PortTable", kCellWidth), 1);
   auto* const force = new QGridLayout;
   force->addWidget(Make(mirror_, this, "PortAddrCaption"), 0, 0);
   force->addWidget(Make(mirror_, this, "ValueCaption"), 0, 1);
@@ -120,28 +130,43 @@ QLayout* WatchWindow::MakePorts() {
 }
 
 QLayout* WatchWindow::MakeLines() {
-  GridView* const table = MakeTableOfWidth("InterruptTable", kLineWidth);
+  GridView* const table = MakeHeadedTable("InterruptCaption", "InterruptTable", kLineWidth);
+  table->set_meaning(MeaningOfLine);
+  table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* const keys = new QGridLayout;
   keys->setSpacing(0);
-  keys->setRowMinimumHeight(0, table->horizontalHeader()->minimumHeight() + table->frameWidth());
+  QWidgetList in_rows;
   int line = 0;
   for (const char* arrow : {"TRAP", "RST75", "RST65", "RST55", "INTR"}) {
-    // Each key stands on the level of its row.
     QWidget* const key = MakeKey(mirror_, this, "IButton", ++line);
-    key->setFixedHeight(key->sizeHint().height());
-    table->verticalHeader()->setDefaultSectionSize(key->height());
+    key->setFocusPolicy(Qt::TabFocus);
     keys->addWidget(MakeArrow(arrow), line, 0);
     keys->addWidget(key, line, 1);
+    in_rows << key;
   }
   keys->setRowStretch(line + 1, 1);
-  ShowRows(*table, kInterruptRows);
+  // Each key stands on the level of its row.
+  connect(table, &GridView::RowsFitted, this, [table, keys, in_rows](int height) {
+    table->SetExtent(kLineWidth, kInterruptRows, Qt::Horizontal | Qt::Vertical);
+    keys->setRowMinimumHeight(0, table->horizontalHeader()->minimumHeight() + table->frameWidth());
+    for (QWidget* key : in_rows) key->setFixedHeight(height);
+  });
+  table->SetLeastRowHeight(kLeastKeyHeight);
   auto* const row = new QHBoxLayout;
   row->setSpacing(0);
-  row->addWidget(table);
+  row->addWidget(table, 0, Qt::AlignTop);
   row->addLayout(keys);
+  row->addStretch();
   auto* const column = new QVBoxLayout;
-  column->addWidget(MakeBold(mirror_, this, "InterruptCaption"));
+  column->setSpacing(kLineGap);
   column->addLayout(row);
+  column->addSpacing(kGap);
+  column->addWidget(
+      new QuietLabel("A key sets its line: a click turns it\n"
+                     "over, and RST 7.5 is 1 while it is held.\n"
+                     "Green lines are heard, red ones masked.",
+                     this));
+  column->addStretch();
   return column;
 }
 
@@ -156,16 +181,18 @@ QWidget* WatchWindow::MakeArrow(const char* name) {
 
 QWidget* WatchWindow::MakeStartingAddress() {
   auto* const box = new QWidget(this);
-  auto* const line = new QHBoxLayout;
-  line->addWidget(Make(mirror_, box, "AddrCaption"));
-  line->addWidget(MakeBigDigits(mirror_, box, "AddrLbl"));
-  line->addStretch();
-  auto* const column = new QVBoxLayout(box);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addLayout(line);
-  column->addWidget(MakeKeypad(mirror_, box, "NUM"));
+  auto* const value = new QVBoxLayout;
+  value->setSpacing(kLineGap);
+  value->addWidget(Make(mirror_, box, "AddrCaption"));
+  value->addWidget(MakeBigDigits(mirror_, box, "AddrLbl"));
   auto* const accept = static_cast<QAbstractButton*>(Make(mirror_, box, "AcceptButton"));
-  column->addWidget(accept);
+  value->addWidget(accept);
+  value->addStretch();
+  auto* const line = new QHBoxLayout(box);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(kGap);
+  line->addLayout(value);
+  line->addWidget(MakeKeypad(mirror_, box, "NUM"), 0, Qt::AlignTop);
   // What follows a starting address is stepping.
   connect(accept, &QAbstractButton::clicked, this,
           [this] { execute_->setFocus(Qt::OtherFocusReason); });

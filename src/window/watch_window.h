@@ -3,7 +3,7 @@
 #ifndef QUILLA_WINDOW_WATCH_WINDOW_H_
 #define QUILLA_WINDOW_WATCH_WINDOW_H_
 
-#include <QBoxLayout>
+#include <QLayout>
 #include <QWidget>
 
 #include "window/form_mirror.h"
@@ -19,14 +19,15 @@ class WatchWindow : public QWidget {
 
  private:
   QLayout* MakeInstruction();
-  /// A table that scrolls in the window's height, under its caption.
-  QBoxLayout* MakeTall(const char* caption, const char* table_name, int width_in_digits);
   QLayout* MakePorts();
   QLayout* MakeLines();
   /// The arrow from the key of an interrupt line to its row.
   QWidget* MakeArrow(const char* name);
   QWidget* MakeStartingAddress();
-  GridView* MakeTableOfWidth(const char* name, int width_in_digits);
+  /// A table that scrolls in the window's height.
+  GridView* MakeTallTable(const char* name, int width_in_digits);
+  /// The same, its own headings in the place of a caption.
+  GridView* MakeHeadedTable(const char* caption, const char* name, int width_in_digits);
 
   void PutInScrollArea(QWidget& content);
 

@@ -10,6 +10,7 @@
 #include "window/renumber_window.h"
 #include "window/splash_window.h"
 #include "window/watch_window.h"
+#include "window/zoom.h"
 
 namespace quilla {
 namespace {
@@ -29,7 +30,9 @@ std::unique_ptr<QWidget> MakeWindow(Gate& gate, EventLoop& event_loop, Form& for
       {kPrintInfo, Make<PrintInfoWindow>},     {kProgrammingPanel, Make<MainWindow>},
       {kRenumberDialog, Make<RenumberWindow>}, {kWatchWindowDialog, Make<WatchWindow>},
   };
-  return kMakers.at(form.name())(gate, event_loop, form);
+  std::unique_ptr<QWidget> window = kMakers.at(form.name())(gate, event_loop, form);
+  AddZoom(*window);
+  return window;
 }
 
 }  // namespace quilla

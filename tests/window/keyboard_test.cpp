@@ -1,4 +1,5 @@
 // The panel worked with the keyboard alone, and where the focus goes.
+#include <QAccessible>
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
@@ -72,6 +73,94 @@ TEST_F(KeyboardTest, ACommandLeavesTheFocusInTheBoxThatItOpens) {
   EXPECT_NE(focus_after("Table1", "ReplaceLabel"), "Table1");
   EXPECT_NE(focus_after("Table1", "FindVariable"), "Table1");
   EXPECT_EQ(focus_after("INST 1", "DeleteLabels"), "Table1") << "there is no box";
+}
+
+TEST_F(KeyboardTest, TabLandsOnTheCursorAndShiftSelectsItsColumn) {
+  for (int i = 0; i < 3; ++i) Click("INST 78");
+  auto& table = Find<GridView>("Table1");
+  const auto land = [&] {
+    Find("INST 78").setFocus();
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(table.currentIndex(), table.model()->index(4, kMnemonicColumn));
+  };
+  land();
+  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Left, Qt::Key_Left}) Press(key);
+  QTest::keyPress(&table, Qt::Key_Up, Qt::ShiftModifier);
+  QTest::keyRelease(&table, Qt::Key_Shift);
+  EXPECT_EQ(session().SelectionTop, 1);
+  EXPECT_EQ(session().SelectionBottom, 2);
+  land();
+}
+
+TEST_F(KeyboardTest, EveryBoxIsWorkedWithTheKeysAlone) {
+  EnterStrings();
+  const auto open = [this](const char* command) {
+    window().findChild<QAction*>(command)->trigger();
+    return FocusName();
+  };
+  EXPECT_EQ(open("ReplaceLabel"), "ReplaceText");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(open("ReplaceVariable"), "XXText");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(open("FindVariable"), "XXCombo");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(open("PlaceLabelTool"), "PlaceText");
+  Find("NewPlaceOption").setFocus();
+  Press(Qt::Key_Down);
+  EXPECT_EQ(FocusName(), "PlaceCombo") << "the list of the option chosen";
+  Find("Table1").setFocus();
+  Press(Qt::Key_Up);
+  Press(Qt::Key_Space);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Cell(2, kLabelColumn), "loop");
+}
+
+TEST_F(KeyboardTest, SpaceHoldsAnInterruptKey) {
+  QWidget& simulator = OpenSimulator();
+  auto* const key = simulator.findChild<QPushButton*>("IButton 2");
+  EXPECT_NE(key->focusPolicy() & Qt::TabFocus, 0);
+  key->setFocus();
+  QTest::keyPress(key, Qt::Key_Space);
+  EXPECT_EQ(key->text(), "1");
+  QTest::keyRelease(key, Qt::Key_Space);
+  EXPECT_EQ(key->text(), "0");
+  auto* const memory = simulator.findChild<GridView*>("MemoryTable");
+  memory->setFocus();
+  for (const Qt::Key away : {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Home}) {
+    QTest::keyClick(memory, away, Qt::ControlModifier);
+    EXPECT_FALSE(memory->visualRect(memory->currentIndex()).isEmpty()) << "a hidden row";
+  }
+  simulator.findChild<GridView*>("InstructionTable")->setFocus();
+  const auto* const row = simulator.findChild<GridView*>("InstructionTable");
+  EXPECT_FALSE(row->visualRect(row->currentIndex()).isEmpty());
+}
+
+TEST_F(KeyboardTest, ScreenReadersAreTold) {
+  EnterStrings();
+  for (Control* control : session().ProgrammingPanel.controls()) {
+    if (auto* const box = dynamic_cast<Box*>(control)) box->Show();
+  }
+  QWidget& simulator = OpenSimulator();
+  std::set<QString> lines;
+  for (QWidget* top : {static_cast<QWidget*>(&window()), &simulator}) {
+    for (QWidget* widget : top->findChildren<QWidget*>()) {
+      const Control* const control = top->findChild<FormMirror*>()->ControlAt(widget);
+      const bool is_its_own = widget->objectName().startsWith(
+          QString::fromStdString(control == nullptr ? "-" : control->name()));
+      if (!is_its_own || !widget->isVisible() || qobject_cast<QLabel*>(widget) != nullptr) continue;
+      const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+      EXPECT_FALSE(name.isEmpty()) << control->name();
+      if (control->name() == "IButton") lines.insert(name);
+    }
+  }
+  EXPECT_EQ(lines.size(), 5U);
+  const auto told = [](GridView& table, int row, int column) {
+    auto* const cells = QAccessible::queryAccessibleInterface(&table)->tableInterface();
+    return cells->cellAt(row, column)->text(QAccessible::Description);
+  };
+  EXPECT_EQ(told(Find<GridView>("Table1"), 3, kMnemonicColumn), "cursor");
+  auto& signals_table = *simulator.findChild<GridView*>("InterruptTable");
+  EXPECT_EQ(told(signals_table, 2, 0), "masked");
 }
 
 TEST_F(KeyboardTest, HeldKeysPressNothing) {

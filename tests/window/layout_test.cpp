@@ -1,13 +1,18 @@
 // What a user sees of the panel: nothing cut off, nothing that jumps, the cursor in view.
 #include <QAbstractButton>
 #include <QAction>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QToolTip>
+#include <QWheelEvent>
 #include <QWindow>
+#include <tuple>
 
 #include "platform/button.h"
+#include "window/colors.h"
 #include "window/panel_fixture.h"
 
 namespace quilla {
@@ -62,7 +67,7 @@ TEST_P(LayoutTest, EveryBoxIsWholeAndNothingJumps) {
 
 TEST_P(LayoutTest, ColumnsHoldTheirUsualTexts) {
   const auto& table = Find<GridView>("Table1");
-  const QFontMetrics metrics(window().font());
+  const QFontMetrics metrics(table.font());
   constexpr int kMargins = 10;
   EXPECT_GE(table.columnWidth(0), metrics.horizontalAdvance("Origin") + kMargins);
   EXPECT_GE(table.columnWidth(1), metrics.horizontalAdvance("8000") + kMargins);
@@ -71,6 +76,26 @@ TEST_P(LayoutTest, ColumnsHoldTheirUsualTexts) {
 }
 
 INSTANTIATE_TEST_SUITE_P(FontPercent, LayoutTest, testing::Values(100, 150));
+
+TEST_P(LayoutTest, ZoomMakesTablesAndKeysLargerInAWindowOfTheSameSize) {
+  auto& table = Find<GridView>("Table1");
+  const auto sizes = [&] { return std::tuple(table.fontMetrics().height(), table.rowHeight(1)); };
+  const auto before = sizes();
+  const int key = Find("INST 0").fontMetrics().height();
+  EXPECT_GE(Find("INST 0").height(), 24);
+  for (int i = 0; i < 9; ++i) Press(Qt::Key_Plus, Qt::ControlModifier);
+  ExpectAllWhole("zoomed");
+  EXPECT_GT(std::get<0>(sizes()), std::get<0>(before) * 2);
+  EXPECT_GT(std::get<1>(sizes()), std::get<1>(before) * 2);
+  EXPECT_GT(Find("INST 0").fontMetrics().height(), key);
+  QWheelEvent wheel({}, {}, {}, {0, -120}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase,
+                    false);
+  const auto largest = sizes();
+  QApplication::sendEvent(table.viewport(), &wheel);
+  EXPECT_LT(sizes(), largest);
+  Press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(sizes(), before);
+}
 
 // The tests' screen is 800 pixels high and wide: less than what the panel wishes.
 TEST_F(PanelTest, TheWindowsFitTheScreenFrameAndAll) {
@@ -176,6 +201,68 @@ TEST_F(TableTest, TheCursorStaysInView) {
   QCoreApplication::processEvents();
   const QRect cursor = table().visualRect(table().model()->index(61, kMnemonicColumn));
   EXPECT_TRUE(table().viewport()->rect().contains(cursor));
+}
+
+TEST_F(TableTest, ReadsLikeAListing) {
+  for (const int height : {768, 1080}) {
+    window().resize(1366, height);
+    QCoreApplication::processEvents();
+    const int rows = table().model()->rowCount();
+    table().verticalScrollBar()->setValue(table().verticalScrollBar()->maximum());
+    const int end = table().rowViewportPosition(rows - 1) + table().rowHeight(rows - 1);
+    EXPECT_EQ(end, table().viewport()->height()) << "no band below the last row";
+  }
+  const QFontMetrics letters(table().font());
+  EXPECT_EQ(letters.horizontalAdvance("iXX"), letters.horizontalAdvance("MXX"));
+  EXPECT_TRUE(table().verticalHeader()->isVisible());
+  EXPECT_EQ(table().model()->headerData(5, Qt::Vertical), 5) << "as messages number the lines";
+  table().verticalScrollBar()->setValue(0);
+  const QImage picture = table().viewport()->grab().toImage();
+  const auto ground = [&](int row) {
+    return picture.pixelColor(CellCenter(row, kCommentColumn) + QPoint(200, 0));
+  };
+  EXPECT_NE(ground(1), ground(2)) << "the row of the cursor";
+}
+
+TEST(Colors, ReadWellInBothPalettes) {
+  const QPalette light(Qt::black, Qt::white, Qt::white, Qt::black, Qt::gray, Qt::black, Qt::white);
+  const QPalette dark(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::gray, Qt::white, Qt::black);
+  for (const QPalette& palette : {light, dark}) {
+    const QColor base = palette.color(QPalette::Base);
+    for (const CellColor color : {kOriginColor, kCommentColor, kMaskedColor, kFoundColor}) {
+      const QColor ground = GroundOf(color, palette);
+      const QColor text = TextOn(ground);
+      EXPECT_EQ(ReadableOn(ground, text), text) << ground.name().toStdString();
+    }
+    for (const CellColor tint : {kOriginColor, kCommentColor}) {
+      EXPECT_EQ(TextOn(GroundOf(tint, palette)), TextOn(base)) << "no bar that glares";
+    }
+    EXPECT_EQ(TextOn(GroundOf(kMaskedColor, palette)), QColor(Qt::white));
+  }
+}
+
+TEST_F(PanelTest, BoxesSayWhatTheyTakeAndWhyAKeyIsGrey) {
+  Click("INST 37");
+  const auto hint = [this](const char* box) {
+    return Find<QLabel>(QString(box) + "Hint").text().toStdString();
+  };
+  const auto hint_for = [&](const QString& name) {
+    Find<QLineEdit>("LabelText").clear();
+    Type(name);
+    return hint("LabelBox");
+  };
+  EXPECT_NE(hint("LabelBox").find("Esc gives the row back"), std::string::npos);
+  EXPECT_NE(hint("LabelBox").find("Existing is grey"), std::string::npos);
+  EXPECT_NE(hint_for("1").find("begins with a small letter"), std::string::npos);
+  EXPECT_NE(hint_for("aB").find("only small letters and digits"), std::string::npos);
+  EXPECT_NE(hint_for("loop").find("1 to 6 small letters"), std::string::npos);
+  Press(Qt::Key_Return);
+  Click("INST 37");
+  EXPECT_NE(hint_for("loop").find("choose Existing"), std::string::npos);
+  Press(Qt::Key_Escape);
+  Click("INST 1");
+  Type("Aloop");
+  EXPECT_NE(hint("XXBox").find("choose another"), std::string::npos);
 }
 
 TEST_F(TableTest, ThePointerTellsWhatAClickActsOn) {

@@ -1,0 +1,39 @@
+#include "window/gutter.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "window/cell_delegate.h"
+#include "window/colors.h"
+#include "window/grid_model.h"
+
+namespace quilla {
+namespace {
+
+constexpr int kFewestDigits = 3;
+
+}  // namespace
+
+Gutter::Gutter(QWidget* parent) : QHeaderView(Qt::Vertical, parent) {
+  setSectionResizeMode(QHeaderView::Fixed);
+  setMinimumSectionSize(1);
+  setSectionsClickable(false);
+}
+
+QSize Gutter::sizeHint() const {
+  const auto digits = std::max<qsizetype>(QString::number(count() - 1).size(), kFewestDigits);
+  return {static_cast<int>(digits) * fontMetrics().horizontalAdvance(u'0') + 2 * kCellMargin, 0};
+}
+
+void Gutter::paintSection(QPainter* painter, const QRect& area, int row) const {
+  const bool has_cursor = static_cast<const GridModel*>(model())->cursor().row() == row;
+  QFont letters = font();
+  letters.setBold(has_cursor);
+  painter->fillRect(area, palette().color(QPalette::Window));
+  painter->setFont(letters);
+  painter->setPen(has_cursor ? palette().color(QPalette::WindowText) : QuietText(palette()));
+  painter->drawText(area.adjusted(0, 0, -kCellMargin, 0), Qt::AlignRight | Qt::AlignVCenter,
+                    QString::number(row));
+}
+
+}  // namespace quilla

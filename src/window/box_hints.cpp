@@ -96,9 +96,9 @@ QString NumberHint(const FormMirror& mirror) {
 }
 
 QString CommentHint(const FormMirror& mirror) {
-  QStringList lines("Any text; \" and & cannot be typed. Cancel gives the old one back.");
+  QStringList lines("Any text; \" and & cannot be typed. Ignore gives the old one back.");
   if (!mirror.Get<Button>("DefaultCommentButton").enabled()) {
-    lines << "Default is grey: the row holds no instruction.";
+    lines << "Default Comment is grey: the row holds no instruction.";
   }
   if (!mirror.Get<Button>("CommentNextButton").enabled()) {
     lines << "Next is grey: there is no row below.";

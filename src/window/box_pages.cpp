@@ -69,8 +69,7 @@ void FillRegisterPage(FormMirror& mirror, BoxPage* page) {
       grid->addWidget(key, static_cast<int>(row), static_cast<int>(place));
     }
   }
-  column->addWidget(keys);
-  column->addStretch();
+  column->addWidget(keys, 1);
   page->set_keys(keys);
   page->setFocusPolicy(Qt::StrongFocus);
 }
@@ -86,7 +85,7 @@ void FillDigitPage(FormMirror& mirror, BoxPage* page, std::string_view caption,
   row->addLayout(display);
 
   QWidget* const keys = MakeKeypad(mirror, page, keys_name);
-  row->addWidget(keys, 0, Qt::AlignTop);
+  row->addWidget(keys);
   auto* const actions = new QVBoxLayout;
   actions->addWidget(Make(mirror, page, accept));
   actions->addStretch();

@@ -140,7 +140,7 @@ bool InstructionPage::HandleKey(const QKeyEvent& event) {
   }
   const QString text = event.text();
   if (text.size() == 1 && text[0].isLetter()) return LookUp(text.toUpper());
-  typed_.clear();
+  if (event.key() != Qt::Key_Shift) typed_.clear();
   return false;
 }
 

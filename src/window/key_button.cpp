@@ -24,7 +24,7 @@ void PanelButton::paintEvent(QPaintEvent* event) {
 }
 
 KeyButton::KeyButton(QWidget* parent) : PanelButton(parent) {
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   setFocusPolicy(Qt::NoFocus);
 }
 

@@ -21,7 +21,7 @@ int DigitsWidth(const QWidget& widget, int count) {
 
 QWidget* NewKeyBlock(QWidget* parent) {
   auto* const block = new QWidget(parent);
-  block->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  block->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   auto* const grid = new QGridLayout(block);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(kKeyGap);

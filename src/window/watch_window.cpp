@@ -146,12 +146,14 @@ QLayout* WatchWindow::MakeLines() {
   }
   keys->setRowStretch(line + 1, 1);
   // Each key stands on the level of its row.
-  connect(table, &GridView::RowsFitted, this, [table, keys, in_rows](int height) {
+  const auto align = [table, keys, in_rows](int height) {
     table->SetExtent(kLineWidth, kInterruptRows, Qt::Horizontal | Qt::Vertical);
     keys->setRowMinimumHeight(0, table->horizontalHeader()->minimumHeight() + table->frameWidth());
     for (QWidget* key : in_rows) key->setFixedHeight(height);
-  });
+  };
+  connect(table, &GridView::RowsFitted, this, align);
   table->SetLeastRowHeight(kLeastKeyHeight);
+  align(table->verticalHeader()->defaultSectionSize());
   auto* const row = new QHBoxLayout;
   row->setSpacing(0);
   row->addWidget(table, 0, Qt::AlignTop);

@@ -19,14 +19,6 @@ constexpr std::string_view kTitleMark = "== ";
 constexpr std::string_view kScriptMark = "> ";
 constexpr const char* kStart = "open OpenForm\nclosed OpenForm\n";
 constexpr std::string_view kScenarioEnding = ".robot";
-constexpr std::size_t kContextLines = 6;
-
-std::vector<std::string> LinesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
-  return lines;
-}
 
 std::string NameOf(std::string name) {
   std::ranges::replace_if(
@@ -79,19 +71,18 @@ std::vector<Scenario> ScenariosIn(const fs::path& folder) {
 }
 
 std::string FirstDifference(const std::string& expected, const std::string& actual) {
-  const std::vector<std::string> wanted = LinesOf(expected);
-  const std::vector<std::string> found = LinesOf(actual);
-  const auto [differs, instead] =
-      std::mismatch(wanted.begin(), wanted.end(), found.begin(), found.end());
-  if (differs == wanted.end() && instead == found.end()) return {};
-  const auto line = static_cast<std::size_t>(differs - wanted.begin());
-  std::string report = "line " + std::to_string(line + 1) + " of the transcript:\n";
-  for (std::size_t i = line - std::min(line, kContextLines); i < line; ++i) {
-    report += "           " + wanted[i] + '\n';
+  std::istringstream wanted(expected);
+  std::istringstream found(actual);
+  std::string wanted_line;
+  std::string found_line;
+  std::string report;
+  while (std::getline(wanted, wanted_line) && std::getline(found, found_line)) {
+    if (wanted_line != found_line) {
+      return report + "expected:  " + wanted_line + "\nbut it is: " + found_line + '\n';
+    }
+    report += "           " + wanted_line + '\n';
   }
-  report += "expected:  " + (differs == wanted.end() ? "(the end)" : *differs) + '\n';
-  report += "but it is: " + (instead == found.end() ? "(the end)" : *instead) + '\n';
-  return report;
+  return expected == actual ? "" : report + "one ends here, the other goes on\n";
 }
 
 ScratchFolder::ScratchFolder(const fs::path& files)

@@ -23,8 +23,8 @@ std::vector<Scenario> ReadScenarios(const std::filesystem::path& path);
 /// The scenarios of all files of a folder, in order of their names.
 std::vector<Scenario> ScenariosIn(const std::filesystem::path& folder);
 
-/// Shows the first line where two transcripts differ, with the lines before it; empty if they are
-/// equal.
+/// Shows the first line where two transcripts differ, after the lines that do not; empty if they
+/// are equal.
 std::string FirstDifference(const std::string& expected, const std::string& actual);
 
 /// A fresh working directory that holds copies of given files, and goes with the object.

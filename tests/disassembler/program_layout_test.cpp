@@ -31,20 +31,5 @@ TEST(ProgramLayoutTest, TheStoresReachToRow70000) {
   }
 }
 
-TEST(ProgramLayoutTest, ANewCheckLeavesTheRowsFrom65536On) {
-  ProgramLayout layout;
-  std::vector<MarkedByte> bytes = Zeros(65600, Category::kMnemonic);
-  CheckMarks(bytes, layout);
-  bytes[100].category = Category::kUnwanted;
-  bytes[65540].category = Category::kUnwanted;
-  CheckMarks(bytes, layout);
-  EXPECT_EQ(layout.OriginList,
-            std::vector<std::string>({"00000", "00000", "0065103", "1000565545"}));
-  EXPECT_EQ(OpcodeCellOf(layout, 101), "");
-  EXPECT_EQ(OpcodeCellOf(layout, 65544), "00");
-  Clear(layout);
-  EXPECT_EQ(OpcodeCellOf(layout, 65544), "");
-}
-
 }  // namespace
 }  // namespace quilla

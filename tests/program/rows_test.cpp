@@ -1,10 +1,9 @@
-// Where the row operations and the state machine have their edges.
+// Where the row operations have their edges.
 #include "program/rows.h"
 
 #include <gtest/gtest.h>
 
 #include "program/desk.h"
-#include "program/state_machine.h"
 
 namespace quilla {
 namespace {
@@ -22,16 +21,6 @@ TEST(RowsTest, TablesKeepTenRowsAhead) {
   for (const auto& [row, rows] : {std::pair{19, 35}, {20, 30}, {3, 30}}) {
     desk.rows.DeleteRows(row);
     EXPECT_EQ(desk.session.StringTable.Rows(), rows) << row;
-  }
-}
-
-TEST(StateMachineTest, AStateOutsideTheTableChangesTheTipAlone) {
-  Desk desk;
-  StateMachine states(desk.session);
-  for (const int state : {36, 99}) {
-    desk.session.SetTip("old");
-    states.ControlTransfer(static_cast<PanelState>(state));
-    EXPECT_EQ(desk.session.TipsLabel.caption(), "");
   }
 }
 

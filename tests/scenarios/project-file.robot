@@ -8,37 +8,25 @@ caption: TipsLabel="Program Mode."
 > row "MVI A,count" "JMP loop" HLT ; click PlaceLabelTool ; cell Table1 3 0
 > click ExistingPlaceOption ; enter ; click PlaceDoneButton ; click CommentsTool ; cell Table1 3 4
 > clear CommentsTxt ; type CommentsTxt "Größe, конец, 終" ; click CommentDoneButton
-> click AssignAddress ; settle ; changes
-session: Cursor=4 LastLine=3 FileChanged=1 ClickedRow=3 SelectedInstruction=79 CurrentOpcode=118
-    SavedComment="Halt program execution." | LastAddressList 0="8005"
-StringTable 1="count" 2="loop" | Labels 0 "loop" "8005" "3" "1" "1" | Variables 0 "count" "XX"
-Table1 1 - "8000" "MVI  A,   count" "3E   XX" default
-Table1 2 - "8002" "JMP  loop" "C3   05   80" default | 3 "loop" "8005" "HLT" "76"
-    "Gr\xC3\xB6\xC3\x9Fe, \xD0\xBA\xD0\xBE\xD0\xBD\xD0\xB5\xD1\x86, \xE7\xB5\x82"
-> path program.txt ; click SaveFile ; changes
+> click AssignAddress ; settle ; path program.txt ; click SaveFile ; changes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.txt"
-session: FileOrigin=3 FileChanged=0 FileName="program.txt" ProjectPath="program.baf"
-Table1 1..3 - ""
+session: Cursor=4 LastLine=3 FileOrigin=3 ClickedRow=3 SelectedInstruction=79 CurrentOpcode=118
+    SavedComment="Halt program execution." FileName="program.txt" ProjectPath="program.baf"
+LastAddressList 0="8005" | StringTable 1="count" 2="loop" | Labels 0 "loop" "8005" "3" "1" "1"
+Variables 0 "count" "XX" | Table1 1 - - "MVI  A,   count" "3E   XX" default
+Table1 2 - - "JMP  loop" "C3   05   80" default | 3 "loop" - "HLT" "76"
+    "Gr\xC3\xB6\xC3\x9Fe, \xD0\xBA\xD0\xBE\xD0\xBD\xD0\xB5\xD1\x86, \xE7\xB5\x82"
 caption: ProgrammingPanel="Brelvanor Quilla - program.txt" TipsLabel="File Saved."
 > row NOP ; click SaveFile
 # The same file opened has the same rows and strings; what the lists say of labels comes later.
-> path program.baf ; click OpenFile ; changes
+> path program.baf ; click OpenFile
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "program.baf"
-session: Cursor=1 LastLine=1 FileOrigin=2 SelectedInstruction=78 CurrentOpcode=0
-    FileName="program.baf" | LabelLineList count=0 | LabelPlacedList count=0 | LabelUsedList count=0
-LastAddressList count=0 | Table1 4 - - "NOP" "00" default
-caption: ProgrammingPanel="Brelvanor Quilla - program.baf" TipsLabel="File Opened."
 > click FindLabel ; escape ; changes
-session: LastLine=3 | LabelLineList 0="3" | LabelPlacedList 0="1" | LabelUsedList 0="1"
-caption: TipsLabel="Program Mode."
-# A path too short, a folder that is not there, a folder in place of a file: all cannot be saved.
-> row RIM ; path abc ; click SaveAsFile ; path absent/new.baf ; click SaveAsFile ; click SaveFile
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "abc"
-box critical "Unable to save file." ok -> ok
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "absent/new.baf"
-box critical "Unable to save file." ok -> ok
-box critical "Unable to save file." ok -> ok
-> path folder.txt ; click SaveAsFile ; changes
+session: Cursor=1 FileOrigin=2 SelectedInstruction=78 CurrentOpcode=0 FileName="program.baf"
+LastAddressList count=0 | Table1 4 - - "NOP" "00" default
+caption: ProgrammingPanel="Brelvanor Quilla - program.baf" TipsLabel="Program Mode."
+# A folder in place of a file cannot be saved.
+> row RIM ; path folder.txt ; click SaveAsFile ; changes
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "folder.txt"
 box critical "Unable to save file." ok -> ok
 session: Cursor=2 FileChanged=1 SelectedInstruction=74 CurrentOpcode=32
@@ -51,28 +39,25 @@ Table1 1 - - "RIM" "20"
 box question "Save changes to folder.txt?" yesnocancel -> yes
 box critical "Unable to save file." ok -> ok
 box question "Save changes to folder.txt?" yesnocancel -> cancel
-> click OpenFile ; answer yes ; click NewFile ; changes
+> click OpenFile ; answer yes ; click NewFile
 box question "Save changes to folder.txt?" yesnocancel -> no
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> cancel
 box question "Save changes to folder.txt?" yesnocancel -> yes
 box critical "Unable to save file." ok -> ok
+> changes
 == opening
 # Files that cannot be opened leave a new program under their name, saved there without asking.
-> row NOP ; answer no ; path missing.baf ; click OpenFile ; changes
+> row NOP ; answer no ; path missing.baf ; click OpenFile
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "missing.baf"
 box critical "Unable to open file." ok -> ok
-session: FileOrigin=2 SelectedInstruction=78 FileName="missing.baf" ProjectPath="missing.baf"
-    MessageResult="1"
-caption: ProgrammingPanel="Brelvanor Quilla - missing.baf" TipsLabel="Program Mode."
-> row SIM ; click SaveFile ; path missing.baf ; click OpenFile ; changes
+> row SIM ; click SaveFile ; path missing.baf ; click OpenFile
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "missing.baf"
-session: SelectedInstruction=75 CurrentOpcode=48 | Table1 1 - - "SIM" "30" default
-caption: TipsLabel="File Opened."
 > path folder.baf ; click OpenFile ; changes
 dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "folder.baf"
 box critical "Unable to open file." ok -> ok
-session: FileName="folder.baf" ProjectPath="folder.baf" | Table1 1 - - "" "" ""
+session: FileOrigin=2 SelectedInstruction=75 CurrentOpcode=48 FileName="folder.baf"
+    ProjectPath="folder.baf" MessageResult="1"
 caption: ProgrammingPanel="Brelvanor Quilla - folder.baf" TipsLabel="Program Mode."
 # Items need no quotes, and the marks are not compared. Bytes of another encoding come and go as
 # they are; a name without an extension loses its end.
@@ -85,14 +70,3 @@ session: FileName="ano.baf" ProjectPath="ano.baf" | LabelCombo 0="again" | Label
 OriginList 0="7000" | Table1 0 - "7000"
 Table1 1 "again" - "HLT" "76" "f\xFCr alle, \xE2\x82\xAC und \x80"
 caption: ProgrammingPanel="Brelvanor Quilla - ano.baf" TipsLabel="File Opened."
-# Opening ends data mode and Insert; a save in data mode ends in data mode, done or not.
-> click EntryMode ; click WriteMode ; path ano.baf ; click OpenFile ; changes
-dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "ano.baf"
-> click EntryMode ; click SaveFile ; path absent/new.baf ; click SaveAsFile ; click SaveAsFile
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "absent/new.baf"
-box critical "Unable to save file." ok -> ok
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> cancel
-> changes
-session: PanelState=29 FileOrigin=3 FileName="new.baf" ProjectPath="absent/new.baf"
-caption: EntryMode="Program &Mode" TipsLabel="Data Mode." | shown: DataBox | hidden: InstructionBox
-focus: DataAcceptButton | default: DataAcceptButton

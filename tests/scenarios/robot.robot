@@ -1,58 +1,49 @@
 == refusals
 # What is refused, in the order in which the robot looks.
-> click REG 0 ; click INST 1 ; click REG 8 ; click INST 0 ; cell Table1 0 5 ; cell Table1 32 0
+> click REG 0 ; click INST 1 ; click REG 8 ; click INST 0 ; cell Table1 0 5 ; close OpenForm
 refused REG hidden
 refused REG disabled
 refused INST hidden
 refused Table1 outside
-refused Table1 outside
-> drag Table1 1 2 99999999999 2 ; hover Table1 -1 0 ; click AssembleFile ; close OpenForm
-refused Table1 outside
-refused Table1 outside
-refused AssembleFile disabled
 refused OpenForm hidden
-> press REG 9 ; release INST 4 ; hover REG 9 ; show REG 0 ; show OpenForm.VersionLabel
+> drag Table1 1 2 99999999999 2 ; hover Table1 -1 0 ; press REG 9 ; release INST 4 ; show REG 0
+refused Table1 outside
+refused Table1 outside
 refused REG disabled
 refused INST hidden
-refused REG disabled
 REG 0 caption="B" enabled=1 visible=1
 # The rest of a text is dropped where a key or a character finds no one to take it.
 > key RegisterBox "xbc" ; type LabelText name ; type XXText "a long name" ; show XXText
 refused RegisterBox hidden
 refused LabelText hidden
 XXText text="a long" enabled=1 visible=1
-> clear XXText ; pick XXCombo 0 ; click ExistingXXOption
+> clear XXText ; pick XXCombo 0
 refused XXCombo disabled
-refused ExistingXXOption disabled
 # Enter and Esc press the buttons of the panel. A list that the user may open.
-> enter ; type XXText "x" ; enter ; click INST 1 ; escape ; click REG 8 ; enter ; click INST 15
+> enter ; type XXText "x" ; enter ; click INST 1 ; escape ; enter ; click INST 15
 refused XXAcceptButton disabled
-refused REG disabled
 refused XXAcceptButton hidden
-> click ExistingXXOption ; pick XXCombo 1 ; pick XXCombo -1 ; pick XXCombo 0 ; show XXCombo
-refused XXCombo outside
+> click ExistingXXOption ; pick XXCombo 1 ; pick XXCombo 0 ; show XXCombo
 refused XXCombo outside
 XXCombo text="x" index=0 count=1 enabled=1 visible=1
-> show ExistingXXOption ; show EntryMode ; show Table1 ; show HexList
+> show ExistingXXOption ; show EntryMode ; show HexList
 ExistingXXOption checked=1 enabled=1 visible=1
 EntryMode caption="Data &Mode" enabled=0 visible=1
-Table1 enabled=1 visible=1
 HexList enabled=1 visible=0
 # Names with their window, and windows that are not open; rows and entries, as many as there are.
-> escape ; show ProgrammingPanel.TipsLabel ; hover OpenForm ; click OpenForm.VersionLabel
+> escape ; show ProgrammingPanel.TipsLabel ; click OpenForm.VersionLabel ; dump Table1 -5 0
 ProgrammingPanel.TipsLabel caption="Program Mode." enabled=1 visible=1
-refused OpenForm hidden
 refused OpenForm.VersionLabel hidden
-> dump ProgrammingPanel.Table1 30 99 ; dump Table1 -5 0 ; dump Table1 1 0 ; list XXCombo
 Table1 0 "Origin" "8000" "" "" ""
+> list XXCombo ; list LabelCombo ; click ReplaceVariable ; colors Table1
 XXCombo 0 "x"
-> list LabelCombo ; colors Table1
 LabelCombo empty
 Table1 0 0 back=E0E0E0 fore=-
 Table1 0 1 back=E0E0E0 fore=-
 Table1 0 2 back=E0E0E0 fore=-
 Table1 0 3 back=E0E0E0 fore=-
 Table1 0 4 back=E0E0E0 fore=-
+Table1 1 2 back=0000FF fore=FFFFFF
 Table1 2 2 back=cursor fore=cursor
 # A box with a choice and no answer is cancelled; the panel closes by its frame.
 > close ProgrammingPanel ; answer yes ; close ProgrammingPanel ; answer ok ; close ProgrammingPanel
@@ -62,9 +53,7 @@ box question "Are you sure you want to quit? You will lose unsaved information."
 ended
 == rows and changes
 # Nothing differs at the start, nor right after the differences are told. Whole rows by their keys.
-> changes
-> row "MOV  A , M" "MVI M,x" "LXI SP,p" "LXI B , p" "RST 7" "PUSH PSW" "STAX D" "IN x" RNC
-> changes
+> row "MOV  A , M" "MVI M,x" "LXI SP,p" "LXI B , p" "RST 7" "PUSH PSW" "STAX D" "IN x" RNC ; changes
 session: Cursor=10 LastLine=9 FileChanged=1 SelectedInstruction=64 CurrentOpcode=208
 StringTable 2="x" 3..4="p" 8="x" | Labels 0 "p" "XXXX" "0" "0" "1" | Variables 0 "x" "XX"
 Table1 1 - - "MOV  A,  M" "7E" default | 2 - - "MVI  M,   x" "36   XX" default
@@ -72,26 +61,16 @@ Table1 3 - - "LXI  SP,  p" "31   XX   XX" default | 4 - - "LXI  B,  p" "01   XX 
 Table1 5 - - "RST 7" "FF" default | 6 - - "PUSH  PSW" "F5" default | 7 - - "STAX  D" "12" default
 Table1 8 - - "IN   x" "DB   XX" default | 9 - - "RNC" "D0" default
 caption: TipsLabel="Program Mode."
-> changes
 # A refusal is that of the press, and ends the row; what a hidden box holds waits until it is seen.
-> row "ADI Big" NOP ; changes
+> row "ADI Big" NOP
 refused XXAcceptButton disabled
-session: PanelState=2 EntryPending=1 SelectedInstruction=15 CurrentOpcode=198
-Table1 10 - - "ADI" "C6" | caption: TipsLabel="Enter 8-bit number and click 'Accept'."
-text: XXCombo="x" XXText="Big" | shown: XXBox
-hidden: InstructionBox XXDoneButton XXFindButton XXReplaceButton
-disabled: EditMenu/* FileMenu/* ToolsMenu/* XXAcceptButton XXCombo | checked: NewXXOption
-focus: XXText | default: XXAcceptButton
-> escape ; row "JMP x" NOP ; changes
+> escape ; row "JMP x" NOP
 box critical "String already used as Label or Variable. Please enter another label." ok -> ok
 refused INST hidden
-session: PanelState=4 SelectedInstruction=37 CurrentOpcode=195 MessageResult="1"
-Table1 10 - - "JMP" "C3" | caption: TipsLabel="Enter Label and click 'Accept'."
-text: LabelCombo="p" | shown: LabelBox | hidden: XXBox | disabled: LabelAcceptButton LabelCombo
-checked: NewLabelOption | focus: LabelText | default: LabelAcceptButton
 > escape ; row "JMP p" ; click PlaceLabelTool ; type PlaceText ";" ; changes
-session: Cursor=11 PanelState=16 EntryPending=0 | PlaceCombo 0="p" | StringTable 10="p"
-Table1 10 - - "JMP  p" "C3   XX   XX" default
+session: Cursor=11 PanelState=16 SelectedInstruction=37 CurrentOpcode=195 MessageResult="1"
+PlaceCombo 0="p" | StringTable 10="p" | Table1 10 - - "JMP  p" "C3   XX   XX" default
 caption: TipsLabel="Select Row, Enter Label and Click 'Place'; or Click 'Cancel'."
-text: PlaceCombo="p" PlaceText=";" | shown: PlaceBox | hidden: LabelBox
-disabled: PlaceAcceptButton PlaceCombo | checked: NewPlaceOption | focus: PlaceText
+text: PlaceCombo="p" PlaceText=";" | shown: PlaceBox | hidden: InstructionBox
+disabled: EditMenu/* FileMenu/* PlaceAcceptButton PlaceCombo ToolsMenu/* | checked: NewPlaceOption
+focus: PlaceText

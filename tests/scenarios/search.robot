@@ -9,37 +9,36 @@ box information "No labels used in the program." ok -> ok
 session: FileChanged=1 SelectionAnchor=1 SelectedInstruction=37 CurrentOpcode=195 MessageResult="1"
 StringTable rows=31 | Labels 0 "old" "XXXX" "0" "0" "0" | Table1 rows=31
 caption: TipsLabel="Program Mode."
-# A program where labels are placed, used, both, and neither; the first row is used up by a variable.
+# A program where labels are placed, used, both, and neither; the first row holds a variable.
 > row "MVI A,count" "CALL sub" "JMP loop" "JNZ loop" RET ; click PlaceLabelTool ; cell Table1 3 0
 > click ExistingPlaceOption ; pick PlaceCombo 2 ; enter ; cell Table1 5 0 ; type PlaceText end
 > enter ; click PlaceDoneButton ; click FindLabel ; enter ; click FindButton ; pick FindCombo 1
 box information "The label 'old' is not used in the program." ok -> ok
 box information "The label 'old' is not used in the program." ok -> ok
-> click FindButton ; changes
+> click FindButton
 box information "The label 'sub' is used 1 time in the program." ok -> ok
+> pick FindCombo 3 ; click FindButton ; pick FindCombo 2 ; click FindButton ; changes
+box information "The label 'end' is used 1 time in the program." ok -> ok
+box information "The label 'loop' is used 3 times in the program." ok -> ok
 session: Selection=6 PanelState=22 CurrentRow=6 LastLine=5 ClickedRow=5 SelectedInstruction=58
     CurrentOpcode=201 | FindCombo 0="old" 1="sub" 2="loop" 3="end"
 StringTable 1="count" 2="sub" 3..4="loop" | Labels 1 "sub" "XXXX" "0" "0" "1"
 Labels 2 "loop" "XXXX" "3" "1" "1" | 3 "end" "XXXX" "5" "1" "0" | Variables 0 "count" "XX"
 Table1 1 - - "MVI  A,   count" "3E   XX" default | 2 - - "CALL  sub" "CD   XX   XX" default
 Table1 3 "loop" - "JMP  loop" "C3   XX   XX" default | 4 - - "JNZ  loop" "C2   XX   XX" default
-Table1 5 "end" - "RET" "C9" default | colors 1,2=own 2,2=FF0000/FFFFFF 6,2=cursor
-caption: TipsLabel="Completed searching for label." | text: FindCombo="sub" | shown: FindBox
+Table1 5 "end" - "RET" "C9" default
+Table1 colors 1,2=own 3,0=FF0000/FFFFFF 3,2=FF0000/FFFFFF 4,2=FF0000/FFFFFF 6,2=cursor
+caption: TipsLabel="Completed searching for label." | text: FindCombo="loop" | shown: FindBox
 hidden: InstructionBox | disabled: EditMenu/* FileMenu/* ToolsMenu/* | focus: FindCombo
 default: FindButton
-> pick FindCombo 3 ; click FindButton ; pick FindCombo 2 ; click FindButton ; changes
-box information "The label 'end' is used 1 time in the program." ok -> ok
-box information "The label 'loop' is used 3 times in the program." ok -> ok
-Table1 colors 2,2=own 3,0=FF0000/FFFFFF 3,2=FF0000/FFFFFF 4,2=FF0000/FFFFFF | text: FindCombo="loop"
 # Done takes the marks off; the rows of variables count too where they share the name.
-> click FindDoneButton ; changes
-session: PanelState=1 | Table1 colors 3,0=own 3,2=own 4,2=own | caption: TipsLabel="Program Mode."
-shown: InstructionBox | hidden: FindBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
-> click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText count ; enter ; click ReplaceDoneButton
-> click FindLabel ; pick FindCombo 4 ; enter ; escape ; changes
+> click FindDoneButton ; click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText count ; enter
+> click ReplaceDoneButton ; click FindLabel ; pick FindCombo 4 ; enter ; escape ; changes
 box information "The label 'count' is used 2 times in the program." ok -> ok
-session: SelectionAnchor=2 | StringTable 2="count" | Labels 1 - - - - "0"
-Labels 4 "count" "XXXX" "0" "0" "1" | Table1 2 - - "CALL  count" | colors 1,2=FF0000/FFFFFF
+session: PanelState=1 SelectionAnchor=2 | StringTable 2="count" | Labels 1 - - - - "0"
+Labels 4 "count" "XXXX" "0" "0" "1" | Table1 2 - - "CALL  count"
+Table1 colors 1,2=FF0000/FFFFFF 3,0=own 3,2=own 4,2=own | caption: TipsLabel="Program Mode."
+shown: InstructionBox | hidden: FindBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 == variables
 # Without variables both commands tell so and come back.
 > click FindVariable ; click ReplaceVariable ; changes
@@ -65,46 +64,29 @@ caption: TipsLabel="Completed searching for 'count'." | text: XXCombo="count" XX
 shown: XXBox | hidden: InstructionBox XXAcceptButton XXReplaceButton
 disabled: EditMenu/* ExistingXXOption FileMenu/* NewXXOption ToolsMenu/* XXText
 checked: NewXXOption | focus: XXText | default: XXFindButton
-> pick XXCombo 1 ; click XXFindButton ; pick XXCombo 2 ; click XXFindButton
+> pick XXCombo 1 ; click XXFindButton ; pick XXCombo 2 ; click XXFindButton ; escape
 box information "The variable 'port' is used 1 time in the program." ok -> ok
 box information "The variable 'mask' is not used in the program." ok -> ok
-# Done takes the marks off; so does Esc.
-> pick XXCombo 1 ; enter ; click XXDoneButton ; click FindVariable ; enter ; escape ; changes
-box information "The variable 'port' is used 1 time in the program." ok -> ok
-box information "The variable 'count' is used 2 times in the program." ok -> ok
-session: PanelState=1 | Table1 colors 1..2,2=own | caption: TipsLabel="Program Mode."
-shown: InstructionBox | hidden: XXBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
-# The replace box: candidates are the operands of two-byte rows. Clicks select; the operand of a label can be selected first, a label not.
-> click ReplaceVariable ; type XXText 9x ; clear XXText ; type XXText total ; changes
-session: PanelState=33 | Table1 colors 1..3,2=0000FF/FFFFFF | caption: TipsLabel=""
-text: XXText="total" | shown: XXBox XXReplaceButton | hidden: InstructionBox XXFindButton
-enabled: ExistingXXOption NewXXOption XXText | disabled: EditMenu/* FileMenu/* ToolsMenu/* XXCombo
-default: XXReplaceButton
-> cell Table1 4 2 ; changes
-session: PanelState=34 SelectionAnchor=4 | Table1 colors 4,2=00FF00/000000
+# The replace box: candidates are the operands of two-byte rows. Clicks select; the operand of a
+# label can be selected first, a label not.
+> click ReplaceVariable ; type XXText 9x ; clear XXText ; type XXText total ; cell Table1 4 2
 > cell Table1 4 2 ; cell Table1 1 2 ; cell Table1 1 0 ; cell Table1 2 2 ; cell Table1 2 2
 > cell Table1 0 0 ; changes
-session: SelectionAnchor=2 | Table1 colors 1,2=00FF00/000000 4,2=0000FF/FFFFFF
+session: PanelState=34 SelectionAnchor=2 | Table1 colors 1,2=00FF00/000000 2..4,2=0000FF/FFFFFF
+caption: TipsLabel="" | text: XXText="total" | shown: XXReplaceButton | hidden: XXFindButton
+enabled: ExistingXXOption NewXXOption XXText | disabled: XXCombo | default: XXReplaceButton
 # A new name: it is listed without an equivalent.
 > enter ; changes
 session: PanelState=33 | StringTable 1="total" | Variables 3 "total" "XX"
 Table1 1 - - "MVI  A,   total" "3E   XX" | colors 1,2=0000FF/FFFFFF | text: XXText=""
 disabled: XXReplaceButton
-# A name that is a variable already is refused, that of a label is not.
-> cell Table1 3 2 ; type XXText count ; enter ; changes
+# A name that is a variable already is refused, that of a label is not. A known name brings its
+# equivalent along.
+> cell Table1 3 2 ; type XXText count ; enter ; type XXText loop ; enter ; cell Table1 3 2
 box critical "String already present as Label or Variable. Please enter another label." ok -> ok
-session: PanelState=34 SelectionAnchor=3 | Table1 colors 3,2=00FF00/000000
-> type XXText loop ; enter
-# A known name brings its equivalent along.
-> cell Table1 3 2 ; click ExistingXXOption ; enter ; changes
-session: PanelState=33 | StringTable 3="count" | Variables 4 "loop" "XX"
-Table1 3 - - "OUT   count" "D3   05" | colors 3,2=0000FF/FFFFFF
-# Back to a new name, Replace waits for it.
-> click ExistingXXOption ; click NewXXOption ; changes
-# A label's operand that is selected becomes a variable's. Nothing selected still lists the name.
-> cell Table1 4 2 ; type XXText low ; enter ; type XXText idle ; enter ; changes
-session: SelectionAnchor=4 | StringTable 4="low" | Variables 5 "low" "XX" | 6 "idle" "XX"
-Table1 4 - - "JMP  low" "C3   XX"
+> click ExistingXXOption ; enter ; changes
+session: SelectionAnchor=3 | StringTable 3="count" | Variables 4 "loop" "XX"
+Table1 3 - - "OUT   count" "D3   05"
 # With no row in use left there is nothing to replace; the list can be searched still.
 > drag Table1 1 2 4 2 ; click DeleteEdit ; click ReplaceVariable ; click FindVariable ; enter
 refused DeleteEdit disabled
@@ -140,61 +122,39 @@ Table1 colors 1,2=cursor 2,2=0000FF/FFFFFF 3,0=0000FF/FFFFFF 3,2=0000FF/FFFFFF 4
 caption: TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
 text: ReplaceCombo="sub" ReplaceText="new" | shown: ReplaceBox | hidden: InstructionBox
 disabled: EditMenu/* FileMenu/* ReplaceCombo ToolsMenu/* | checked: NewReplaceOption
-# An origin is no cell to select in either state; any other click goes on to the next state.
-> clear ReplaceText ; cell Table1 0 0 ; cell Table1 6 2 ; changes
-session: SelectionAnchor=6 | text: ReplaceText=""
-> cell Table1 1 4 ; cell Table1 6 0 ; changes
-session: PanelState=24
-# Cells toggle. Of the labels only the one that is selected last stays so, the operands all do.
-> cell Table1 2 2 ; cell Table1 3 2 ; cell Table1 3 0 ; cell Table1 7 2 ; cell Table1 2 2
-> cell Table1 5 0 ; cell Table1 1 2 ; cell Table1 7 1 ; changes
-session: SelectionAnchor=1 | Table1 colors 3,2=00FF00/000000 5,0=00FF00/000000 7,2=00FF00/000000
+# An origin is no cell to select; any other click goes on to the next state. Cells toggle. Of the
+# labels only the one that is selected last stays so, the operands all do.
+> clear ReplaceText ; cell Table1 0 0 ; cell Table1 6 2 ; cell Table1 6 0 ; cell Table1 2 2
+> cell Table1 3 2 ; cell Table1 3 0 ; cell Table1 7 2 ; cell Table1 2 2 ; cell Table1 5 0
+> cell Table1 1 2 ; cell Table1 7 1 ; changes
+session: PanelState=24 SelectionAnchor=1
+Table1 colors 3,2=00FF00/000000 5,0=00FF00/000000 7,2=00FF00/000000 | text: ReplaceText=""
 # A new name: the spelling decides. The first selected label takes it, and all selected operands.
 > type ReplaceText 1st ; clear ReplaceText ; type ReplaceText Big ; clear ReplaceText
-> type ReplaceText newlabel ; changes
-text: ReplaceText="newlab" | enabled: ReplaceAcceptButton | default: ReplaceAcceptButton
-> enter ; changes
+> type ReplaceText newlabel ; enter ; changes
 session: PanelState=23 | ReplaceCombo 3="newlab" | StringTable 3="newlab" 7="newlab"
 Labels count=4 (1 in at 2) | 2 "end" "800B" "0" "0" "0" | 3 "newlab" "XXXX" - - "1"
 Table1 3 - - "JMP  newlab" "C3   XX   XX" | 5 "newlab" | 7 - - "JMP  newlab" "C3   XX   XX"
-Table1 colors 3,2=0000FF/FFFFFF 5,0=0000FF/FFFFFF 7,2=0000FF/FFFFFF | text: ReplaceText=""
-disabled: ReplaceAcceptButton
-# The name in the box of the place tool is the one that is tested.
-> escape ; click PlaceLabelTool ; type PlaceText loop ; escape ; click ReplaceLabel
-> cell Table1 2 2 ; type ReplaceText fresh ; enter ; changes
-box critical "The string 'fresh' already exists. Please enter another string." ok -> ok
-session: PanelState=24 SelectionAnchor=2 MessageResult="1" | Table1 colors 2,2=00FF00/000000
-focus: ReplaceText
-> click ReplaceDoneButton ; click PlaceLabelTool ; type PlaceText count ; click PlaceDoneButton
-> click ReplaceLabel ; cell Table1 2 2 ; type ReplaceText fresh ; enter ; escape
-box critical "The string 'fresh' already exists. Please enter another string." ok -> ok
-# A known label: the list is live at once, with nothing selected too.
-> click PlaceLabelTool ; escape ; path replace.baf ; click SaveFile ; click ReplaceLabel
+Table1 colors 3,2=0000FF/FFFFFF 5,0=0000FF/FFFFFF 7,2=0000FF/FFFFFF | default: ReplaceAcceptButton
+# A known label: the list is live at once, with nothing selected too. An operand takes the known
+# name and keeps its bytes.
+> escape ; click PlaceLabelTool ; escape ; path replace.baf ; click SaveFile ; click ReplaceLabel
 dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "replace.baf"
-> click ExistingReplaceOption ; changes
-session: PanelState=23 FileOrigin=3 FileChanged=0 FileName="replace.baf" ProjectPath="replace.baf"
-Table1 1..5 - "" | 7 - "" | colors 2,2=0000FF/FFFFFF
-caption: ProgrammingPanel="Brelvanor Quilla - replace.baf"
-enabled: ReplaceAcceptButton ReplaceCombo | disabled: ReplaceText | checked: ExistingReplaceOption
-unchecked: NewReplaceOption | focus: ReplaceCombo
-> enter ; changes
-session: FileChanged=1 | enabled: ReplaceText | disabled: ReplaceAcceptButton ReplaceCombo
-checked: NewReplaceOption | unchecked: ExistingReplaceOption
-# An operand takes the known name and keeps its bytes.
-> cell Table1 4 2 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; enter ; changes
-session: SelectionAnchor=4 | LabelUsedList count=5 (1 in at 3) 1="0" 3="1" | StringTable 4="sub"
-Table1 4 - - "JNZ  sub"
-# A label placed elsewhere is asked for. No: it stays, the operand still gets the name.
+> click ExistingReplaceOption ; enter ; cell Table1 4 2 ; click ExistingReplaceOption
+> pick ReplaceCombo 0 ; enter ; changes
+session: FileOrigin=3 SelectionAnchor=4 FileName="replace.baf" ProjectPath="replace.baf"
+LabelUsedList count=5 (1 in at 3) 1="0" 3="1" | StringTable 4="sub" | Table1 1..3 - ""
+Table1 4 - "" "JNZ  sub" | 5 - "" | 7 - ""
+caption: ProgrammingPanel="Brelvanor Quilla - replace.baf" | focus: ReplaceCombo
+# A label placed elsewhere is asked for. No: it stays, the operand still gets the name. Yes: it
+# moves, and its old cell is empty.
 > cell Table1 3 0 ; cell Table1 4 2 ; click ExistingReplaceOption ; pick ReplaceCombo 3 ; answer no
-> enter ; changes
+> enter ; cell Table1 3 0 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; answer yes ; enter
 box question "The label 'newlab' is already placed in line # 5. Do you want to reposition it to line # 3?" yesno -> no
-session: MessageResult="7" | StringTable 4="newlab" | Table1 4 - - "JNZ  newlab"
-# Yes: it moves, and its old cell is empty.
-> cell Table1 3 0 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; answer yes ; enter
 box question "The label 'sub' is already placed in line # 7. Do you want to reposition it to line # 3?" yesno -> yes
 > changes
-session: MessageResult="6" | LabelLineList 0="3" 1="0" | LabelPlacedList 1="0" | Table1 3 "sub"
-Table1 7 "" | colors 7,0=own
+session: MessageResult="6" | LabelLineList 0="3" 1="0" | LabelPlacedList 1="0"
+StringTable 4="newlab" | Table1 3 "sub" | 4 - - "JNZ  newlab" | 7 "" | colors 7,0=own
 # The operand of a variable can be selected as well, and becomes a label's.
 > cell Table1 3 0 ; click ExistingReplaceOption ; pick ReplaceCombo 0 ; enter ; cell Table1 1 2
 > type ReplaceText addr ; enter ; click ReplaceDoneButton ; changes
@@ -209,45 +169,30 @@ enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
 > answer no ; click NewFile ; row "JMP loop" HLT ; click PlaceLabelTool ; cell Table1 2 0
 box question "Save changes to replace.baf?" yesnocancel -> no
 > type PlaceText end ; enter ; click PlaceDoneButton ; click ReplaceLabel ; cell Table1 2 0
-> click NewReplaceOption ; changes
-session: Selection=3 PanelState=24 CurrentRow=3 LastLine=2 FileOrigin=1 SelectionAnchor=0
-    ClickedRow=2 SelectedInstruction=79 CurrentOpcode=118 FileName="Pgm1.baf" MessageResult="7"
-LabelCombo count=2 (3 out at 0) 0="loop" 1="end" | LabelEqtList count=2 (3 out at 0)
-LabelLineList count=2 (3 out at 0) 0="0" 1="2" | LabelPlacedList count=2 (3 out at 0) 0="0" 1="1"
-LabelUsedList count=2 | LastAddressList count=0 | OriginList count=1
-ReplaceCombo count=2 (2 out at 0) 0="loop" 1="end"
-StringTable rows=32 (1 out at 1) 1="loop" 2..3="" 6="" | Variables count=0
-Table1 rows=32 (1 out at 1) | 1 - - "JMP  loop" "C3   XX   XX" | 2 "end" - "HLT" "76"
-Table1 3 - - "" "" "" | 4 "" - "" "" "" | 5 "" "" | 6 - - "" "" ""
-Table1 colors 1,2=0000FF/FFFFFF 2,0=00FF00/000000 3,2=cursor 5,0..4=own
-caption: ProgrammingPanel="Brelvanor Quilla - Pgm1.baf"
-    TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
-text: ReplaceCombo="loop" | shown: ReplaceBox | hidden: InstructionBox
-enabled: ReplaceAcceptButton | disabled: EditMenu/* FileMenu/* ToolsMenu/* | focus: ReplaceText
-> click ReplaceAcceptButton ; cell Table1 1 2 ; type ReplaceText x ; clear ReplaceText
-> click NewReplaceOption ; click ReplaceAcceptButton ; click ReplaceDoneButton
+> click NewReplaceOption ; click ReplaceAcceptButton ; cell Table1 1 2 ; type ReplaceText x
+> clear ReplaceText ; click NewReplaceOption ; click ReplaceAcceptButton ; click ReplaceDoneButton
 box critical "The string '' already exists. Please enter another string." ok -> ok
 > click DeleteUnusedLabels ; click AssignAddress ; settle ; changes
 box information "Unused strings have been deleted." ok -> ok
 box critical "Compile error. There is more than one instance of the label '' in the Label field." ok -> ok
-session: PanelState=1 AddressError=-1 SelectionAnchor=1 MessageResult="1" | OriginList count=0
-Labels 1 "" - "1" | Table1 2 "" | colors 1,2=own | caption: TipsLabel="Assigning Addresses . . ."
-shown: InstructionBox | hidden: ReplaceBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+session: Selection=3 CurrentRow=3 LastLine=2 FileOrigin=1 AddressError=-1 ClickedRow=2
+    SelectedInstruction=79 CurrentOpcode=118 FileName="Pgm1.baf" MessageResult="1"
+LabelCombo count=2 (3 out at 0) 0="loop" 1="" | LabelEqtList count=2 (3 out at 0)
+LabelLineList count=2 (3 out at 0) 0="0" 1="1" | LabelPlacedList count=2 (3 out at 0) 0="0" 1="1"
+LabelUsedList count=2 | LastAddressList count=0 | OriginList count=0
+StringTable rows=32 (1 out at 1) 1="loop" 2..3="" 6="" | Variables count=0
+Table1 rows=32 (1 out at 1) | 1 - - "JMP  loop" "C3   XX   XX" | 2 "" - "HLT" "76" | 3 - - "" "" ""
+Table1 4 "" - "" "" "" | 5 "" "" | 6 - - "" "" "" | colors 2,0=00FF00/000000 3,2=cursor 5,0..4=own
+caption: ProgrammingPanel="Brelvanor Quilla - Pgm1.baf" TipsLabel="Assigning Addresses . . ."
 # On the first row, once it is no origin, a label stays selected beside another one: the first of
 # the two alone takes the new name.
 > escape ; answer no ; click NewFile ; click DeleteLabels ; cell Table1 0 0 ; escape ; row NOP
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
 > click PlaceLabelTool ; cell Table1 0 0 ; type PlaceText zero ; enter ; cell Table1 1 0
 > type PlaceText one ; enter ; escape ; click ReplaceLabel ; cell Table1 0 0 ; cell Table1 1 0
-> changes
-session: Selection=2 PanelState=24 CurrentRow=2 LastLine=1 SelectionAnchor=0 ClickedRow=1
-    SelectedInstruction=78 CurrentOpcode=0 MessageResult="7" | ReplaceCombo 0="zero" 1="one"
-StringTable 1="" | Labels 0 "zero" - - - "0" | 1 "one" | Table1 0 "zero" | 1 "one" - "NOP" "00"
-Table1 2 - - "" "" "" | colors 0..1,0=00FF00/000000 2,0=own 2,2=cursor 3,2=own
-caption: TipsLabel="Select Labels from table, Enter Label and Click 'Replace'; or Click 'Cancel'."
-text: ReplaceCombo="zero" | shown: ReplaceBox | hidden: InstructionBox
-disabled: EditMenu/* FileMenu/* ReplaceAcceptButton ToolsMenu/*
 > type ReplaceText both ; enter ; click ReplaceDoneButton ; changes
-session: PanelState=1 | Labels 2 "both" "XXXX" "0" "0" "0" | Table1 0 "both" | colors 0..1,0=own
-caption: TipsLabel="Program Mode." | shown: InstructionBox | hidden: ReplaceBox
-enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*
+session: Selection=2 CurrentRow=2 LastLine=1 SelectionAnchor=0 ClickedRow=1 SelectedInstruction=78
+    CurrentOpcode=0 MessageResult="7" | StringTable 1="" | Labels count=3 (1 in at 0)
+Labels 0 "zero" "XXXX" "0" "0" "0" | 1 "one" - "1" "1" "0" | 2 "both" - "0" "0" | Table1 0 "both"
+Table1 1 "one" - "NOP" "00" | 2 - - "" "" "" | colors 0,0=own 2,0=own 2,2=cursor 3,2=own
+caption: TipsLabel="Program Mode."

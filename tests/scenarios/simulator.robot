@@ -51,9 +51,12 @@ box question "Save changes to Pgm1.baf?" yesnocancel -> no
 open RenumberDialog
 > click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
 > key RenumberDialog.XXAcceptButton 3 ; click RenumberDialog.XXAcceptButton
-> click RenumberDialog.DoneButton ; click SimulationView ; tick 9 ; tick 1 ; changes
+> click RenumberDialog.DoneButton ; click SimulationView ; tick 9
 closed RenumberDialog
+> tick 1
 open WatchWindowDialog
+# Nothing is there to step before a starting address is given.
+> click WatchWindowDialog.ExecuteButton ; changes
 session: Selection=5 PanelState=1 CurrentRow=5 LastLine=4 SelectionAnchor=0 ClickedRow=2
     SelectedInstruction=79 CurrentOpcode=118 MessageResult="7"
 LastAddressList count=1 (1 out at 0) 0="8006" | OriginList count=1
@@ -65,54 +68,25 @@ WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.MemoryTable 
 WatchWindowDialog.MemoryTable 32770 - "03" | 32771 - "05" | 32772 - "C2" | 32773 - "02"
 WatchWindowDialog.MemoryTable 32774 - "80" | 32775 - "76" | 65535 - "00"
 Table1 colors 1,0..4=own 5,2=cursor
-caption: EntryMode="Data &Mode" WatchWindowDialog.AddrLbl="0000" | shown: InstructionBox
+caption: EntryMode="Data &Mode" WatchWindowDialog.AddrLbl="0000"
+    WatchWindowDialog.StepNoteLabel="Enter a starting address and press OK." | shown: InstructionBox
 hidden: DataBox
-# Nothing is there to step before a starting address is given.
-> click WatchWindowDialog.ExecuteButton ; changes
-caption: WatchWindowDialog.StepNoteLabel="Enter a starting address and press OK."
 # The loop, step by step; PC shows the next instruction.
 > key WatchWindowDialog.AcceptButton 8000 ; click WatchWindowDialog.AcceptButton
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
-WatchWindowDialog.RegisterTable 2 - "03" | 4 - "0300" | 13 - "8002"
-caption: WatchWindowDialog.AddrLbl="8000" WatchWindowDialog.StepNoteLabel=""
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
-WatchWindowDialog.RegisterTable 2 - "02" | 4 - "0200" | 13 - "8003"
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
-WatchWindowDialog.RegisterTable 13 - "8002"
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8006" "HLT" "76" | WatchWindowDialog.RegisterTable 2 - "00"
-WatchWindowDialog.RegisterTable 4 - "0000" | 13 - "8006" | 14 - "1" | 16 - "1"
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8006" "HLT" "76"
+WatchWindowDialog.RegisterTable 13 - "8006" | 14 - "1" | 16 - "1"
+caption: WatchWindowDialog.AddrLbl="8000" WatchWindowDialog.StepNoteLabel=""
 # The halt is told once, and nothing moves after it, a new starting address included.
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
 box information "Program execution halted." ok -> ok
-session: MessageResult="1"
 > key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
 > click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+session: MessageResult="1" | WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
 WatchWindowDialog.RegisterTable 13 - "8002" | caption: WatchWindowDialog.AddrLbl="8002"
-# Chosen again while it is open, the window keeps all but the cells of the program.
-> click SimulationView ; settle ; changes
-# Closed and opened again it starts afresh.
-> press WatchWindowDialog.IButton 1 ; pick WatchWindowDialog.ValueList 7
-> click WatchWindowDialog.ForceButton ; changes
-WatchWindowDialog.PortTable 1 - "07" | caption: WatchWindowDialog.IButton 1="1"
-text: WatchWindowDialog.ValueList="07"
-> close WatchWindowDialog ; click SimulationView ; settle ; changes
-closed WatchWindowDialog
-open WatchWindowDialog
-WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.PortTable 1 - "00"
-WatchWindowDialog.RegisterTable 13 - "0000" | 14 - "0" | 16 - "0"
-caption: WatchWindowDialog.AddrLbl="0000" WatchWindowDialog.IButton 1="0"
-text: WatchWindowDialog.ValueList="00"
-> key WatchWindowDialog.AcceptButton 8002 ; click WatchWindowDialog.AcceptButton
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8003" "JNZ  8002h" "C2   02   80"
-WatchWindowDialog.RegisterTable 2 - "FF" | 4 - "FF00" | 13 - "8003" | 15..16 - "1" | 18 - "1"
-caption: WatchWindowDialog.AddrLbl="8002"
 > close WatchWindowDialog ; answer no ; click NewFile
 closed WatchWindowDialog
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
@@ -121,65 +95,53 @@ box question "Save changes to Pgm1.baf?" yesnocancel -> no
 > key DataAcceptButton 08 ; enter ; key DataAcceptButton F5 ; enter ; click EqtOption
 open RenumberDialog
 > click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
-> key RenumberDialog.XXAcceptButton 5 ; enter ; cell RenumberDialog.VariableTable 2 0
+> key RenumberDialog.XXAcceptButton 0 ; enter ; cell RenumberDialog.VariableTable 2 0
 > key RenumberDialog.XXAcceptButton 6 ; enter ; cell RenumberDialog.VariableTable 3 0
 > key RenumberDialog.XXAcceptButton 1d ; enter ; cell RenumberDialog.VariableTable 4 0
 > key RenumberDialog.XXAcceptButton 0a ; enter ; click RenumberDialog.DoneButton
 closed RenumberDialog
-> click SimulationView ; settle ; changes
+> click SimulationView ; settle
 open WatchWindowDialog
+# A forced value comes in at one port and goes out, complemented, at the other.
+> pick WatchWindowDialog.PortAddrList 0 ; pick WatchWindowDialog.ValueList 60
+> click WatchWindowDialog.ForceButton ; key WatchWindowDialog.AcceptButton 8000
+> click WatchWindowDialog.AcceptButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
 session: Cursor=13 PanelState=29 LastLine=11 SelectedInstruction=72 CurrentOpcode=243
     MessageResult="7" | LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n"
-Labels count=0 | Variables count=4 (3 in at 0) | 0 "p" "05" | 1 "q" "06" | 2 "m" "1D" | 3 "n" "0A"
-Table1 1 - - "IN   p" "DB   05" | 2 "" - "CMA" "2F" | 3 - - "OUT   q" "D3   06"
+Labels count=0 | Variables count=4 (3 in at 0) | 0 "p" "00" | 1 "q" "06" | 2 "m" "1D" | 3 "n" "0A"
+Table1 1 - - "IN   p" "DB   00" | 2 "" - "CMA" "2F" | 3 - - "OUT   q" "D3   06"
 Table1 4 - "8005" "MVI  A,   m" "3E   1D" | 5 - "8007" "SIM" "30" default
 Table1 6 - "8008" "EI" "FB" default | 7 - "8009" "MVI  A,   n" "3E   0A" default
 Table1 8 - "800B" "SIM" "30" default | 9 - "800C" "RIM" "20" default | 10 - "800D" "DI" "F3" default
 Table1 11 - "800E" "DFB" "08" default | 12 - "800F" "DFB" "F5" default
-WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.MemoryTable 32769 - "DB"
-WatchWindowDialog.MemoryTable 32770 - "05" | 32771 - "2F" | 32772 - "D3" | 32773 - "06"
-WatchWindowDialog.MemoryTable 32774 - "3E" | 32775 - "1D" | 32776 - "30" | 32777 - "FB"
-WatchWindowDialog.MemoryTable 32778 - "3E" | 32779 - "0A" | 32780 - "30" | 32781 - "20"
-WatchWindowDialog.MemoryTable 32782 - "F3" | 32783 - "08" | 32784 - "F5"
-WatchWindowDialog.RegisterTable 2 - "00" | 4 - "0000" | 13 - "0000" | 15..16 - "0" | 18 - "0"
-caption: EntryMode="Program &Mode" WatchWindowDialog.AddrLbl="0000" | shown: DataBox
-hidden: InstructionBox
-# A forced value comes in at one port and goes out, complemented, at the other.
-> pick WatchWindowDialog.PortAddrList 5 ; pick WatchWindowDialog.ValueList 60
-> click WatchWindowDialog.ForceButton ; key WatchWindowDialog.AcceptButton 8000
-> click WatchWindowDialog.AcceptButton ; click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8002" "CMA" "2F" | WatchWindowDialog.PortTable 6 - "3C"
-WatchWindowDialog.RegisterTable 1 - "3C" | 13 - "8002" | caption: WatchWindowDialog.AddrLbl="8000"
-text: WatchWindowDialog.PortAddrList="05" WatchWindowDialog.ValueList="3C"
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
 WatchWindowDialog.InstructionTable 1 - "8005" "MVI  A,  1Dh" "3E   1D"
-WatchWindowDialog.PortTable 7 - "C3" | WatchWindowDialog.RegisterTable 1 - "C3" | 13 - "8005"
+WatchWindowDialog.MemoryTable 32769 - "DB" | 32770 - "00" | 32771 - "2F" | 32772 - "D3"
+WatchWindowDialog.MemoryTable 32773 - "06" | 32774 - "3E" | 32775 - "1D" | 32776 - "30"
+WatchWindowDialog.MemoryTable 32777 - "FB" | 32778 - "3E" | 32779 - "0A" | 32780 - "30"
+WatchWindowDialog.MemoryTable 32781 - "20" | 32782 - "F3" | 32783 - "08" | 32784 - "F5"
+WatchWindowDialog.PortTable 1 - "3C" | 7 - "C3" | WatchWindowDialog.RegisterTable 1 - "C3"
+WatchWindowDialog.RegisterTable 13 - "8005" | 14 - "0" | 16 - "0"
+caption: EntryMode="Program &Mode" WatchWindowDialog.AddrLbl="8000"
+text: WatchWindowDialog.ValueList="3C" | shown: DataBox | hidden: InstructionBox
 # Interrupt masks and lines are seen and change nothing else.
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8009" "MVI  A,  0Ah" "3E   0A"
-WatchWindowDialog.InterruptTable 2 - "0" | WatchWindowDialog.RegisterTable 1 - "1D" | 13 - "8009"
-WatchWindowDialog.InterruptTable colors 3,0=00FF00 5,0=00FF00
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
+> click WatchWindowDialog.ExecuteButton
 box information "This is an invalid instruction. However, the processor will execute this instruction as a NOP instruction." ok -> ok
-session: MessageResult="1" | WatchWindowDialog.InstructionTable 1 - "800E" "-" "08"
-WatchWindowDialog.RegisterTable 1 - "0A" | 13 - "800E"
-WatchWindowDialog.InterruptTable colors 2,0=00FF00 3,0=0000FF 4,0=00FF00 5,0=0000FF
-> press WatchWindowDialog.IButton 1 ; press WatchWindowDialog.IButton 2 ; changes
-caption: WatchWindowDialog.IButton 1="1" WatchWindowDialog.IButton 2="1"
+> press WatchWindowDialog.IButton 1 ; press WatchWindowDialog.IButton 2
 > release WatchWindowDialog.IButton 1 ; release WatchWindowDialog.IButton 2
+> click WatchWindowDialog.IButton 5 ; click WatchWindowDialog.IButton 1
 > click WatchWindowDialog.IButton 5 ; changes
-caption: WatchWindowDialog.IButton 2="0" WatchWindowDialog.IButton 5="1"
-> click WatchWindowDialog.IButton 1 ; click WatchWindowDialog.IButton 5 ; changes
-caption: WatchWindowDialog.IButton 1="0" WatchWindowDialog.IButton 5="0"
-# The invalid one, and a step that fails: the text 0A is no decimal number to push.
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "800F" "PUSH PSW" "F5"
-WatchWindowDialog.RegisterTable 13 - "800F"
-> click WatchWindowDialog.ExecuteButton ; changes
-caption: WatchWindowDialog.StepNoteLabel="This instruction could not be carried out."
-# The keypad and the keys of its OK button.
+session: MessageResult="1" | WatchWindowDialog.InstructionTable 1 - "800E" "-" "08"
+WatchWindowDialog.InterruptTable 2 - "0" | WatchWindowDialog.RegisterTable 1 - "0A" | 13 - "800E"
+WatchWindowDialog.InterruptTable colors 2,0=00FF00 4,0=00FF00
+# The invalid one, and a step that fails: the text 0A is no decimal number to push. The keypad and
+# the keys of its OK button.
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
 > click WatchWindowDialog.NUM 15 ; click WatchWindowDialog.NUM 5
 > key WatchWindowDialog.AcceptButton "gaF" ; changes
-caption: WatchWindowDialog.AddrLbl="F5AF"
+WatchWindowDialog.InstructionTable 1 - "800F" "PUSH PSW" "F5"
+WatchWindowDialog.RegisterTable 13 - "800F" | caption: WatchWindowDialog.AddrLbl="F5AF"
+    WatchWindowDialog.StepNoteLabel="This instruction could not be carried out."

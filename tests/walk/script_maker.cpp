@@ -1,13 +1,10 @@
 #include "walk/script_maker.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <string_view>
 #include <utility>
 
 #include "platform/button.h"
-#include "platform/failure.h"
-#include "platform/number_text.h"
 #include "platform/text_box.h"
 #include "platform/text_list.h"
 #include "robot/words.h"
@@ -17,7 +14,7 @@
 namespace quilla::walk {
 namespace {
 
-/// What a user does instead of a command that must not be run.
+/// What a user does instead of what cannot or must not be done.
 constexpr const char* kPause = "tick 10";
 
 constexpr const char* kNames[] = {"a1", "x", "loop", "sub", "count", "z9", "1a", "Z", "toolong"};
@@ -36,37 +33,21 @@ std::string NameOf(const Control& control) {
   return name;
 }
 
-/// Whether assembling comes to an end: no record begins where its head is never padded to length.
-bool MayAssemble(const Session& session) {
-  constexpr std::uint32_t kFirstEndless = 0x0100;
-  constexpr std::uint32_t kLastEndless = 0x0FFF;
-  const std::uint32_t longest_block = 3U * static_cast<unsigned>(session.Table1.Rows());
-  for (int row = 0; row < session.Table1.Rows(); ++row) {
-    if (row > 0 && !session.IsOrigin(row)) continue;
-    try {
-      const std::uint32_t address = HexValue(session.Table1.TextMatrix(row, kAddressColumn));
-      if (address <= kLastEndless && address + longest_block >= kFirstEndless) return false;
-    } catch (const Failure&) {
-      continue;  // no address
-    }
-  }
-  return true;
-}
-
 }  // namespace
 
 std::string ScriptMaker::NextLine() {
   if (!planned_.empty()) return std::exchange(planned_, {});
   const int dice = Below(100);
-  if (dice < 34) return GoOn();
-  if (dice < 46) return ChooseCommand();
+  if (dice < 40) return GoOn();
+  if (dice < 46) return Use<MenuEntry>();
   if (dice < 66) return Use<Grid>();
   if (dice < 78) return Use<Button>();
   if (dice < 82) return Use<ComboBox>();
   if (dice < 87) return Use<TextBox>();
   if (dice < 89) return Below(2) == 0 ? Use<Box>() : Use<Label>();
-  if (dice < 95) return QueueAnswer();
-  if (dice < 96) return CloseWindow();
+  if (dice < 94) return QueueAnswer();
+  const Form* const modal = event_loop_.modal();
+  if (dice < 96 && modal != nullptr) return "close " + modal->name();
   if (dice < 98) return Below(4) == 0 ? "settle" : "tick " + std::to_string(Below(40));
   return Below(3) == 0 ? "escape" : "enter";
 }
@@ -111,16 +92,10 @@ std::string ScriptMaker::GoOn() {
   return Usable<Button>().empty() ? "escape" : Use<Button>();
 }
 
-std::string ScriptMaker::ChooseCommand() {
-  const bool task_is_open = !quilla_.panel()->session().IsReady();
-  return task_is_open && Below(8) > 0 ? GoOn() : Use<MenuEntry>();
-}
-
 std::string ScriptMaker::Act(const Control& control) {
   const std::string& name = control.name();
-  if (name == "AssembleFile" && !MayAssemble(quilla_.panel()->session())) return kPause;
-  if (name == "QuitFile" && Below(20) > 0) return kPause;
-  if (name == "SimulationView" && Below(8) > 0) return kPause;  // it fills a whole memory
+  if (name == "AssembleFile" || name == "QuitFile") return kPause;  // it may never end, or does
+  if (name == "SimulationView" && Below(8) > 0) return kPause;      // it fills a whole memory
   if (name.ends_with("File") && Below(2) == 0) {
     planned_ = "click " + NameOf(control);
     return QueuePath();
@@ -136,21 +111,15 @@ std::string ScriptMaker::Act(const Control& control) {
 
 std::string ScriptMaker::Act(const Grid& grid) {
   if (grid.Rows() == 0) return kPause;
-  const auto cell_of = [&](int column) { return AnyRowOf(grid) + ' ' + std::to_string(column); };
-  const int column = Below(grid.Cols());
-  const std::string cell = cell_of(column);
-  if (Below(30) == 0) return "hover " + NameOf(grid) + cell;
-  if (Below(5) > 0) return "cell " + NameOf(grid) + cell;
-  const int mnemonics = std::min(grid.Cols() - 1, int{kMnemonicColumn});
-  return "drag " + NameOf(grid) + cell_of(Below(6) == 0 ? column : mnemonics) + cell;
-}
-
-std::string ScriptMaker::AnyRowOf(const Grid& grid) {
   const int used = std::clamp(quilla_.panel()->session().LastLine + 4, 1, grid.Rows());
-  const int row = Below(8) == 0   ? grid.Rows() - 1 - Below(std::min(grid.Rows(), 3))
-                  : Below(6) == 0 ? Below(grid.Rows())
-                                  : Below(used);
-  return ' ' + std::to_string(row);
+  const auto any_cell = [&](int column) {
+    const int row = Below(Below(6) == 0 ? grid.Rows() : used);
+    return ' ' + std::to_string(row) + ' ' + std::to_string(column);
+  };
+  const int column = Below(grid.Cols());
+  if (Below(5) > 0) return "cell " + NameOf(grid) + any_cell(column);
+  const int mnemonics = std::min(grid.Cols() - 1, int{kMnemonicColumn});
+  return "drag " + NameOf(grid) + any_cell(mnemonics) + any_cell(column);
 }
 
 std::string ScriptMaker::Act(const ComboBox& list) {
@@ -178,15 +147,6 @@ std::string ScriptMaker::QueueAnswer() {
 
 std::string ScriptMaker::QueuePath() {
   return Below(5) == 0 ? "nopath" : "path " + robot::Quoted(AnyOf(FileNames()));
-}
-
-std::string ScriptMaker::CloseWindow() {
-  for (const Form* form : quilla_.Forms()) {
-    if (form->visible() && (form->name() != kProgrammingPanel || Below(20) == 0)) {
-      return "close " + form->name();
-    }
-  }
-  return kPause;
 }
 
 }  // namespace quilla::walk

@@ -39,16 +39,13 @@ class ScriptMaker {
 
   /// What leads on in the task at hand: its text, its keys, and the button that ends it.
   std::string GoOn();
-  std::string ChooseCommand();
   std::string QueueAnswer();
   std::string QueuePath();
-  std::string CloseWindow();
 
   std::string Act(const Grid& grid);
   std::string Act(const ComboBox& list);
   std::string Act(const TextBox& text_box);
   std::string Act(const Control& control);
-  std::string AnyRowOf(const Grid& grid);
   std::string AnyName();
 
   std::mt19937 random_;

@@ -162,41 +162,13 @@ class SheetTest : public testing::TestWithParam<QPageLayout> {
     return area;
   }
 
-  /// Each cell of the last row under a heading keeps to its column, however long its text.
-  template <typename Layout>
-  void ExpectTextsInTheirColumns(Layout& layout) {
-    double twips = 0;
-    for (int column = 0; column < layout.Table.Cols(); ++column) {
-      twips += layout.Table.ColWidth(column);
-    }
-    double left = area_.left();
-    for (int column = 0; column < layout.Table.Cols(); ++column) {
-      const double width = layout.Table.ColWidth(column) * area_.width() / twips;
-      const QRectF place(left, area_.top(), width, area_.height());
-      left += width;
-      if (layout.form.Find("HeadLabel", column) == nullptr) continue;
-      const QImage before = Draw(layout.form);
-      layout.Table.SetTextMatrix(layout.Table.Rows() - 1, column, std::string(300, 'W'));
-      const QRect text = Difference(before, Draw(layout.form));
-      EXPECT_TRUE(place.contains(text)) << column << ", in " << layout.form.name();
-      EXPECT_GT(text.width(), 0.7 * width) << column << ", in " << layout.form.name();
-      EXPECT_GE(text.height(), 5) << column << ", in " << layout.form.name();
-    }
-  }
-
   const QRect area_ = GetParam().paintRectPixels(kDpi);
 };
 
 TEST_P(SheetTest, FillsThePaperAndCutsNothingOff) {
   PrintPanel listing;
-  PrintLabelPanel equivalents;
-  ExpectTextsInTheirColumns(listing);
-  ExpectTextsInTheirColumns(equivalents);
   for (Label* label : {&listing.NameLabel, &listing.CommentLabel}) {
     label->set_caption(std::string(200, 'W'));
-  }
-  for (int column = 0; column < listing.Table.Cols(); ++column) {
-    listing.Table.PaintBack(0, column, CellColor(0xD0D0D0));
   }
   const QImage page = Draw(listing.form);
   QImage empty = page;
@@ -205,11 +177,6 @@ TEST_P(SheetTest, FillsThePaperAndCutsNothingOff) {
   EXPECT_TRUE(area_.adjusted(-1, -1, 1, 1).contains(ink));
   EXPECT_GE(ink.width(), area_.width() - 2);
   EXPECT_GT(ink.height(), 0.6 * area_.height());
-  const QColor shade(0xD0, 0xD0, 0xD0);
-  bool is_shaded = false;
-  for (int y = 0; y < page.height(); ++y)
-    is_shaded |= page.pixelColor(area_.center().x(), y) == shade;
-  EXPECT_TRUE(is_shaded);
 }
 
 constexpr QMarginsF kMargins(36, 36, 36, 36);

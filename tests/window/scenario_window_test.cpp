@@ -1,12 +1,14 @@
-// Every scenario of tests/scenarios/, played on the real widgets: the transcript is the same as on
-// the models, and whenever the state is printed the widgets show what the models hold.
+// Every scenario of tests/scenarios/, and made-up scripts, played on the real widgets: the
+// transcript is the same as on the models, and the widgets show what the models hold.
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <sstream>
 
 #include "robot/robot.h"
 #include "scenario.h"
+#include "walk/walk.h"
 #include "window/widget_check.h"
 #include "window/widget_hands.h"
 
@@ -16,16 +18,18 @@ namespace {
 const std::filesystem::path kScenarios =
     std::filesystem::path(QUILLA_SOURCE_DIR) / "tests" / "scenarios";
 
-class ComparingHands : public WidgetHands {
+class CheckedHands : public WidgetHands {
  public:
   using WidgetHands::WidgetHands;
 
-  void OnState() override {
+  std::string Differences() const {
+    QStringList lines;
     for (const auto& [form, window] : shown()) {
-      const QStringList lines = DifferencesFromModels(*window.mirror, *window.window);
-      EXPECT_TRUE(lines.isEmpty()) << lines.join('\n').toStdString();
+      lines << DifferencesFromModels(*window.mirror, *window.window);
     }
+    return lines.join(u'\n').toStdString();
   }
+  void OnState() override { EXPECT_EQ(Differences(), ""); }
 };
 
 class ScenarioWindowTest : public testing::TestWithParam<Scenario> {};
@@ -36,7 +40,7 @@ TEST_P(ScenarioWindowTest, GivesItsTranscript) {
   std::ostringstream transcript;
   std::ostringstream errors;
   Robot robot(script, transcript, errors, [](Quilla&, ScriptedEventLoop& event_loop) {
-    return std::make_unique<ComparingHands>(event_loop);
+    return std::make_unique<CheckedHands>(event_loop);
   });
   EXPECT_EQ(robot.Play(), kPlayed) << errors.str();
   EXPECT_EQ(FirstDifference(GetParam().transcript, transcript.str()), "");
@@ -44,6 +48,19 @@ TEST_P(ScenarioWindowTest, GivesItsTranscript) {
 
 INSTANTIATE_TEST_SUITE_P(All, ScenarioWindowTest, testing::ValuesIn(ScenariosIn(kScenarios)),
                          [](const auto& scenario) { return scenario.param.name; });
+
+TEST(WalkWindowTest, WidgetsShowTheModelsWhateverTheUserDoes) {
+  walk::TellScriptOnDeath();
+  for (unsigned seed = 1001; seed <= 1012; ++seed) {
+    CheckedHands* hands = nullptr;
+    const auto make_hands = [&](Quilla&, ScriptedEventLoop& event_loop) {
+      auto made = std::make_unique<CheckedHands>(event_loop);
+      hands = made.get();
+      return made;
+    };
+    ASSERT_EQ(walk::FaultOfWalk(seed, make_hands, [&] { return hands->Differences(); }), "");
+  }
+}
 
 }  // namespace
 }  // namespace quilla::robot

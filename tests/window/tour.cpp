@@ -1,7 +1,8 @@
 // Plays a scenario on the real windows, on the display that is there, and leaves pictures of them
 // and the files that the scenario saves in a folder:
 //   quilla-tour SCENARIO FOLDER
-// A comment "# picture NAME" names a picture to be taken at the next line that ends in `changes`.
+// A comment "# picture NAME" names the picture that is taken where the pointer next moves over a
+// bare window.
 #include <QApplication>
 #include <QTest>
 #include <filesystem>
@@ -25,17 +26,13 @@ namespace fs = std::filesystem;
 constexpr int kUsage = 2;
 constexpr int kPaintMs = 50;
 
-/// For each `changes` of a scenario the name of its picture; empty where none is wanted.
+/// The names of the pictures of a scenario, in order.
 std::vector<std::string> PictureNames(const fs::path& scenario) {
   static const std::string kMark = "# picture ";
   std::vector<std::string> names;
-  std::string name;
   std::ifstream file(scenario);
   for (std::string line; std::getline(file, line);) {
-    if (line.starts_with(kMark)) name = line.substr(kMark.size());
-    if (line.starts_with("> ") && line.ends_with(" changes")) {
-      names.push_back(std::exchange(name, {}));
-    }
+    if (line.starts_with(kMark)) names.push_back(line.substr(kMark.size()));
   }
   return names;
 }
@@ -43,15 +40,12 @@ std::vector<std::string> PictureNames(const fs::path& scenario) {
 class PicturingHands : public WidgetHands {
  public:
   PicturingHands(ScriptedEventLoop& event_loop, std::vector<std::string> names)
-      : WidgetHands(event_loop), event_loop_(event_loop), names_(std::move(names)) {}
+      : WidgetHands(event_loop), names_(std::move(names)) {}
 
-  void OnState() override {
-    const std::string& name = names_.at(step_++);
-    for (const auto& [form, window] : shown()) {
-      const bool used = form == event_loop_.active() ||
-                        (event_loop_.active() == nullptr && form->name() == kProgrammingPanel);
-      if (used && !name.empty()) TakePicture(*window.window, name);
-    }
+  void Hover(Control& control) override {
+    WidgetHands::Hover(control);
+    const auto found = shown().find(dynamic_cast<Form*>(&control));
+    if (found != shown().end()) TakePicture(*found->second.window, names_.at(taken_++));
   }
 
  private:
@@ -59,14 +53,11 @@ class PicturingHands : public WidgetHands {
     window.activateWindow();
     QTest::qWait(kPaintMs);
     const std::string path = fs::absolute(name + ".png").string();
-    if (window.grab().save(QString::fromStdString(path))) {
-      std::cout << path << '\n';
-    }
+    if (window.grab().save(QString::fromStdString(path))) std::cout << path << '\n';
   }
 
-  ScriptedEventLoop& event_loop_;
   const std::vector<std::string> names_;
-  std::size_t step_ = 0;
+  std::size_t taken_ = 0;
 };
 
 int Tour(const fs::path& scenario_path, const fs::path& folder) {

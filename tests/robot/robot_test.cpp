@@ -20,7 +20,8 @@ close EntryMode|answer maybe|path|nopath x|port 0 busy|port 5 busy|port 1 gone|f
 tick -1|tick soon|settle 1|state 1|dump TipsLabel|dump Table1 0 1 2|colors HexList|list Table1|
 feed "a|changes now|escape ;|; escape|escape ; escape ";"|row|row NOP jmp|row ""|row "RET A"|
 row NOP,|row "ADD SP"|row "MOV M,M"|row "MOV A"|row "MVI A"|row "MVI A,"|row "LDAX H"|
-row "PUSH SP"|row "LXI PSW,a"|row "RST 8"|row "JMP a,b")";
+row "PUSH SP"|row "LXI PSW,a"|row "RST 8"|row "JMP a,b"|feed "a\"|feed "a"b|feed "\q"|
+feed "\x4"|feed "\xG0"|feed "\x|pick XXCombo 1x|tick ""|tick +1|tick 0x10|tick 99999999999x)";
 
 TEST(RobotTest, StopsAtTheFirstLineThatIsNoCommand) {
   std::istringstream lines(kNoCommands);

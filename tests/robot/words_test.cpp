@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -30,24 +29,6 @@ TEST(WordsTest, AreSeparatedByBlanksAndMayStandInQuotes) {
       {R"(path a"b)", {"path", R"(a"b)"}},
   };
   for (const auto& [line, words] : cases) EXPECT_EQ(AllWords(line), words) << line;
-}
-
-TEST(WordsTest, QuotesThatCannotBeReadAreNoCommand) {
-  for (const std::string_view line : {R"(feed ")", R"(feed "a\")", R"(feed "a"b)", R"(feed "\q")",
-                                      R"(feed "\x4")", R"(feed "\xG0")", R"(feed "\x)"}) {
-    EXPECT_THROW(CommandsOf(line), NotACommand) << line;
-  }
-}
-
-TEST(WordsTest, NumbersAreDecimalAndEndAtTheWidthOfAnInt) {
-  using Limits = std::numeric_limits<int>;
-  Words words = CommandsOf("12 -3 99999999999 -99999999999").front();
-  for (const int number : {12, -3, Limits::max(), Limits::min()}) {
-    EXPECT_EQ(words.TakeNumber(), number);
-  }
-  for (const std::string_view bad : {"", "\"\"", "1x", "x", "+1", "0x10", "99999999999x"}) {
-    EXPECT_THROW(CommandsOf(bad).front().TakeNumber(), NotACommand) << bad;
-  }
 }
 
 TEST(QuotedTest, EscapesWhatWouldNotStandAsItself) {

@@ -1,6 +1,7 @@
 == addresses
 # An untouched program: no addresses but the origin's own, whose block ends one below it.
-> click AssignAddress ; tick 9 ; tick 1 ; changes
+> click AssignAddress ; tick 9 ; show TipsLabel ; tick 1 ; changes
+TipsLabel caption="Assigning Addresses . . ." enabled=1 visible=1
 LastAddressList 0="7FFF" | caption: TipsLabel="Program Mode."
 # Sizes 1, 2 and 3, a data byte and a row left blank: 8000, 8001, 8003, 8006, 8007. Labels get the
 # address of their row: two 8000, five 8006; the one on the blank row none. Low bytes go in first.

@@ -1,11 +1,7 @@
 == keys
 # Keys that do not fit are disabled, and as key presses they do nothing: pairs.
-> click INST 14 ; key RegisterBox acelmpxz1 ; click REG 1 ; changes
+> click INST 14 ; key RegisterBox acelmpxz1 ; click REG 1
 refused REG disabled
-session: PanelState=5 FileChanged=1 EntryPending=1 SelectedInstruction=14 CurrentOpcode=9
-Table1 1 - - "DAD" | caption: TipsLabel="Select Register Pair." | shown: RegisterBox
-hidden: InstructionBox | disabled: EditMenu/* FileMenu/* REG 1,3,5..7,9 ToolsMenu/*
-focus: RegisterBox
 > key RegisterBox S ; click INST 68 ; key RegisterBox acelms ; click REG 8 ; key RegisterBox P
 refused REG disabled
 > click INST 3 ; key RegisterBox hsp ; click REG 4 ; click REG 2 ; click INST 2 ; click REG 9
@@ -18,10 +14,11 @@ refused REG disabled
 refused REG disabled
 > key RegisterBox mm ; click REG 6 ; changes
 refused REG disabled
-session: Cursor=5 PanelState=10 LastLine=3 SelectedInstruction=0 CurrentOpcode=112
+session: Cursor=5 PanelState=10 LastLine=3 FileChanged=1 EntryPending=1 CurrentOpcode=112
 Table1 1 - - "DAD  SP" "39" default | 2 - - "PUSH  PSW" "F5" default | 3 - - "LDAX  D" "1A" default
 Table1 4 - - "ADD  A" "87" default | 5 - - "MOV  M,"
-caption: TipsLabel="Select Register or Memory (Source)." | enabled: REG 1,3,5,7 | disabled: REG 8
+caption: TipsLabel="Select Register or Memory (Source)." | shown: RegisterBox
+hidden: InstructionBox | disabled: EditMenu/* FileMenu/* REG 6,8..9 ToolsMenu/* | focus: RegisterBox
 > key RegisterBox L ; click INST 0 ; click REG 7 ; click REG 6
 # The number of RST: only the keys 0 to 7, no accepting. A digit follows the pointer.
 > click INST 67 ; click NUM 8 ; click NumberAcceptButton ; key NumberAcceptButton 3 ; hover NUM 5

@@ -16,7 +16,7 @@ HexList 0=":008000009F" 1=":00000001FF" | caption: TipsLabel="Reading Hex file .
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "good.hex"
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
 TipsLabel caption="Downloading . . ." enabled=1 visible=1
-> tick 10 ; changes ; tick 99 ; tick 1 ; click EntryMode
+> tick 10 ; changes ; tick 99 ; show TipsLabel ; tick 1 ; click EntryMode
 port open 1 "2400,N,8,1"
 dtr 1
 rts 1
@@ -27,6 +27,7 @@ session: PanelState=29 PortOpen=1 HexPath="good.hex" HexTitle="good.hex"
 HexList count=3 (1 in at 0) 0=":0080000080" 1=":018000007609"
 caption: EntryMode="Program &Mode" TipsLabel="Download completed." | shown: DataBox
 hidden: InstructionBox | focus: DataAcceptButton | default: DataAcceptButton
+TipsLabel caption="Download completed." enabled=1 visible=1
 port close
 # A port that is missing or broken. Broken, it was open, and is taken for open still.
 > click PortOption 3 ; port 4 missing ; path good.hex ; click DownloadFile ; answer ok ; settle
@@ -89,12 +90,14 @@ session: PortOpen=1 HexPath="good.hex" HexTitle="good.hex" CommPortNumber=1 MSCo
 HexList 0=":0080000080" 1=":018000007609" 2=":00000001FF"
 caption: TipsLabel="Formatting received data . . ." | checked: PortOption 0
 unchecked: PortOption 1
-> path up.hex ; tick 99 ; tick 1 ; path up.hex ; click DownloadFile ; answer ok ; settle ; changes
+> path up.hex ; tick 99 ; show TipsLabel ; tick 1 ; path up.hex ; click DownloadFile ; answer ok
+TipsLabel caption="Formatting received data . . ." enabled=1 visible=1
 dtr 0
 rts 0
 port close
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "up.hex"
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "up.hex"
+> settle ; changes
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
 port open 1 "2400,N,8,1"
 dtr 1

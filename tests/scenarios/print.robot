@@ -38,7 +38,8 @@ refused ProgrammingPanel disabled
 refused TableCancelButton disabled
 session: MessageResult="1" | Labels 0 - "8000" | Table1 1 - "8000" | 2 - "8002" | 3 - "8005"
 Table1 31 - "8006" | caption: TipsLabel="Composing print information." | disabled: ProgrammingPanel
-> tick 2029 ; tick 1 ; tick 2029
+> tick 2029 ; show TipsLabel ; tick 1 ; tick 2029
+TipsLabel caption="Composing print information." enabled=0 visible=1
 page PrintPanel "Pgm1.baf" "" 1 2
 line 0 "Origin" "8000" "" "" "" shade=0,1,2,3,4
 line 1 "loop" "8000" "MVI  A,   count" "3E   XX" "Move the equivalent of 'count' into Accumulator." shade=0,2
@@ -59,8 +60,9 @@ caption: TipsLabel="Program Mode." PrintInfo.ProgramLineLabel="32" PrintInfo.Pro
     PrintInfo.TotalPagesLabel="3"
 closed PrintInfo
 > click PrintComments ; type PrintCommentText " && found" ; click PrintCommentDoneButton
-> click PageOption 2 ; answer ok ; click PrintFile ; tick 4039 ; tick 1 ; settle
+> click PageOption 2 ; answer ok ; click PrintFile ; tick 4039 ; show TipsLabel ; tick 1 ; settle
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
+TipsLabel caption="Composing print information." enabled=0 visible=1
 page PrintPanel "Pgm1.baf" "lost && found" 2 3
 line 0 "" "8007" "RET" "C9" "Return." shade=-
 > click PageOption 1 ; answer ok ; click PrintFile ; settle ; changes
@@ -93,25 +95,17 @@ box information "Check the default settings of the printer and click 'OK' to pri
 > settle
 page PrintLabelPanel "Pgm1.baf" "lost && found" 2 2
 line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
-# An overflow in a later block goes unseen; in the first it stops the print, and the panel with it.
-> click NewOrigin ; key NumberAcceptButton FFFF ; click NumberAcceptButton ; row NOP NOP ; answer ok
-> click PrintFile ; settle
-box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
-page PrintLabelPanel "Pgm1.baf" "lost && found" 2 2
-line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
+# An overflow in the first block stops the print, and the panel with it.
 > cell Table1 0 0 ; key NumberAcceptButton FFF9 ; click NumberAcceptButton ; cell Table1 1 2
 > answer ok ; click PrintFile ; settle ; changes ; click QuitFile ; close ProgrammingPanel ; settle
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
 box critical "Compile error. Invalid address in origin FFF9h." ok -> ok
-session: Selection=4 PanelState=1 CurrentRow=4 LastLine=8 FileChanged=1 AddressError=-1
-    SelectionAnchor=1 ClickedRow=0 SelectedInstruction=78 CurrentOpcode=0 MessageResult="1"
-OriginList 0="FFF9" | StringTable rows=33 (1 in at 1) 1="a" 2="b" 3="v0" 4="c"
-Labels 0 "a" "XXXX" "0" "0" "1" | 1 "b" "XXXX" "0" "0" "1" | 2 "c" "XXXX" "0" "0" "1"
-Variables 0 "v0" "XX" | Table1 rows=33 (1 in at 0) | 0 "Origin" "FFF9"
-Table1 1 "" "FFF9" "JMP  a" "C3   XX   XX" default | 2 - "FFFC" "CALL  b" "CD   XX   XX" default
+session: Cursor=4 PanelState=1 LastLine=4 FileChanged=1 AddressError=-1 SelectionAnchor=1
+    ClickedRow=0 SelectedInstruction=6 CurrentOpcode=50 MessageResult="1" | OriginList 0="FFF9"
+StringTable 1="a" 2="b" 3="v0" 4="c" | Labels 0 "a" "XXXX" "0" "0" "1" | 1 "b" "XXXX" "0" "0" "1"
+Labels 2 "c" "XXXX" "0" "0" "1" | Variables 0 "v0" "XX" | Table1 0 - "FFF9"
+Table1 1 - "FFF9" "JMP  a" "C3   XX   XX" default | 2 - "FFFC" "CALL  b" "CD   XX   XX" default
 Table1 3 - "FFFF" "ADI   v0" "C6   XX" default | 4 - "8008" "STA  c" "32   XX   XX" default
-Table1 5 "Origin" "FFFF" | 6..7 - - "NOP" "00" default
-Table1 colors 0,0..4=E0E0E0 1,0..4=own 2,2=own 4,2=cursor 5,0..4=E0E0E0
 caption: TipsLabel="Print aborted." | hidden: PrintCommentBox
 enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/* | disabled: ProgrammingPanel
 checked: PageOption 2 | unchecked: PageOption 1

@@ -45,41 +45,35 @@ caption: WatchWindowDialog.AddrLbl="FFFF" WatchWindowDialog.StepNoteLabel=""
 > close WatchWindowDialog ; click EntryMode ; answer no ; click NewFile
 closed WatchWindowDialog
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
-# Three turns and a halt. The window opens a moment after the click; the tip stays.
-> row "MVI B,count" "DCR B" "JNZ loop" HLT ; click PlaceLabelTool ; cell Table1 2 0
-> click ExistingPlaceOption ; click PlaceAcceptButton ; click PlaceDoneButton ; click EqtOption
-open RenumberDialog
-> click RenumberDialog.VariablesOption ; cell RenumberDialog.VariableTable 1 0
-> key RenumberDialog.XXAcceptButton 3 ; click RenumberDialog.XXAcceptButton
-> click RenumberDialog.DoneButton ; click SimulationView ; tick 9
-closed RenumberDialog
-> tick 1
+# Two turns and a halt. The window opens a moment after the click; the tip stays. Nothing is there
+# to step before a starting address is given.
+> row "INR B" "INR B" "DCR B" "JNZ loop" HLT ; click PlaceLabelTool ; cell Table1 3 0
+> click ExistingPlaceOption ; click PlaceAcceptButton ; click PlaceDoneButton ; click SimulationView
+> tick 9 ; close WatchWindowDialog ; tick 1 ; click WatchWindowDialog.ExecuteButton ; changes
+refused WatchWindowDialog hidden
 open WatchWindowDialog
-# Nothing is there to step before a starting address is given.
-> click WatchWindowDialog.ExecuteButton ; changes
-session: Selection=5 PanelState=1 CurrentRow=5 LastLine=4 SelectionAnchor=0 ClickedRow=2
-    SelectedInstruction=79 CurrentOpcode=118 MessageResult="7"
-LastAddressList count=1 (1 out at 0) 0="8006" | OriginList count=1
-StringTable rows=32 (1 out at 1) 1="count" 3="loop" | Labels 0 "loop" "8002" "2" "1" "1"
-Variables 0 "count" "03" | Table1 rows=32 (1 out at 1)
-Table1 1 "" "8000" "MVI  B,   count" "06   03" default | 2 "loop" "8002" "DCR  B" "05"
-Table1 3 - "8003" "JNZ  loop" "C2   02   80" | 4 - "8006" "HLT" "76" default
-WatchWindowDialog.InstructionTable 1 - "" "" "" | WatchWindowDialog.MemoryTable 32769 - "06"
-WatchWindowDialog.MemoryTable 32770 - "03" | 32771 - "05" | 32772 - "C2" | 32773 - "02"
+session: Selection=6 PanelState=1 CurrentRow=6 SelectionAnchor=0 ClickedRow=3 SelectedInstruction=79
+    CurrentOpcode=118 MessageResult="7" | LastAddressList count=1 (1 out at 0) 0="8006"
+OriginList count=1 | StringTable rows=32 (1 out at 4) 4="loop" | Labels 0 "loop" "8002" "3" "1" "1"
+Table1 rows=32 (1 out at 1) | 1 "" "8000" "INR  B" "04" default | 2 - "8001" "INR  B" "04"
+Table1 3 "loop" "8002" "DCR  B" "05" | 4 - "8003" "JNZ  loop" "C2   02   80" default
+Table1 5 - "8006" "HLT" "76" default | WatchWindowDialog.InstructionTable 1 - "" "" ""
+WatchWindowDialog.MemoryTable 32769..32770 - "04" | 32771 - "05" | 32772 - "C2" | 32773 - "02"
 WatchWindowDialog.MemoryTable 32774 - "80" | 32775 - "76" | 65535 - "00"
-Table1 colors 1,0..4=own 5,2=cursor
+Table1 colors 1,0..4=own 6,2=cursor
 caption: EntryMode="Data &Mode" WatchWindowDialog.AddrLbl="0000"
     WatchWindowDialog.StepNoteLabel="Enter a starting address and press OK." | shown: InstructionBox
 hidden: DataBox
 # The loop, step by step; PC shows the next instruction.
 > key WatchWindowDialog.AcceptButton 8000 ; click WatchWindowDialog.AcceptButton
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
-> click WatchWindowDialog.ExecuteButton ; changes
-WatchWindowDialog.InstructionTable 1 - "8006" "HLT" "76"
-WatchWindowDialog.RegisterTable 13 - "8006" | 14 - "1" | 16 - "1"
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8002" "DCR  B" "05"
+WatchWindowDialog.RegisterTable 2 - "01" | 4 - "0100" | 13 - "8002"
 caption: WatchWindowDialog.AddrLbl="8000" WatchWindowDialog.StepNoteLabel=""
+> click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
+WatchWindowDialog.InstructionTable 1 - "8006" "HLT" "76" | WatchWindowDialog.RegisterTable 2 - "00"
+WatchWindowDialog.RegisterTable 4 - "0000" | 13 - "8006" | 14 - "1" | 16 - "1"
 # The halt is told once, and nothing moves after it, a new starting address included.
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton
 box information "Program execution halted." ok -> ok
@@ -109,11 +103,11 @@ open WatchWindowDialog
 > click WatchWindowDialog.ExecuteButton ; click WatchWindowDialog.ExecuteButton ; changes
 session: Cursor=13 PanelState=29 LastLine=11 SelectedInstruction=72 CurrentOpcode=243
     MessageResult="7" | LastAddressList 0="800F" | StringTable 1="p" 3="q" 4="m" 7="n"
-Labels count=0 | Variables count=4 (3 in at 0) | 0 "p" "00" | 1 "q" "06" | 2 "m" "1D" | 3 "n" "0A"
-Table1 1 - - "IN   p" "DB   00" | 2 "" - "CMA" "2F" | 3 - - "OUT   q" "D3   06"
-Table1 4 - "8005" "MVI  A,   m" "3E   1D" | 5 - "8007" "SIM" "30" default
-Table1 6 - "8008" "EI" "FB" default | 7 - "8009" "MVI  A,   n" "3E   0A" default
-Table1 8 - "800B" "SIM" "30" default | 9 - "800C" "RIM" "20" default | 10 - "800D" "DI" "F3" default
+Labels count=0 | Variables 0 "p" "00" | 1 "q" "06" | 2 "m" "1D" | 3 "n" "0A"
+Table1 1 - - "IN   p" "DB   00" | 2 - "8002" "CMA" "2F" | 3 "" "8003" "OUT   q" "D3   06"
+Table1 4 - "8005" "MVI  A,   m" "3E   1D" | 5 - "8007" "SIM" "30" | 6 - "8008" "EI" "FB" default
+Table1 7 - "8009" "MVI  A,   n" "3E   0A" default | 8 - "800B" "SIM" "30" default
+Table1 9 - "800C" "RIM" "20" default | 10 - "800D" "DI" "F3" default
 Table1 11 - "800E" "DFB" "08" default | 12 - "800F" "DFB" "F5" default
 WatchWindowDialog.InstructionTable 1 - "8005" "MVI  A,  1Dh" "3E   1D"
 WatchWindowDialog.MemoryTable 32769 - "DB" | 32770 - "00" | 32771 - "2F" | 32772 - "D3"

@@ -9,7 +9,6 @@
 #include "platform/text_list.h"
 #include "robot/words.h"
 #include "symbols/string_lists.h"
-#include "walk/files.h"
 
 namespace quilla::walk {
 namespace {
@@ -24,6 +23,13 @@ constexpr std::string_view kLetters = "abcdef";
 constexpr std::string_view kDigits = "0123456789";
 constexpr const char* kAnswers[] = {"ok", "cancel", "yes", "no"};
 constexpr const char* kPortStates[] = {"present", "missing", "busy", "broken"};
+
+/// Files that are there, that are none, and that may come to be.
+constexpr const char* kFileNames[] = {
+    "a.baf",   "b.baf",      "c.txt",        "a.hex",       "b.hex",    "odd.baf",
+    "odd.baf", "folder.baf", "absent/a.baf", "cut.baf",     "huge.baf", "x",
+    "",        "good.hex",   "empty.baf",    "missing.hex", "folder.x",
+};
 
 /// The control as a script names it.
 std::string NameOf(const Control& control) {
@@ -146,7 +152,7 @@ std::string ScriptMaker::QueueAnswer() {
 }
 
 std::string ScriptMaker::QueuePath() {
-  return Below(5) == 0 ? "nopath" : "path " + robot::Quoted(AnyOf(FileNames()));
+  return Below(5) == 0 ? "nopath" : "path " + robot::Quoted(AnyOf(kFileNames));
 }
 
 }  // namespace quilla::walk

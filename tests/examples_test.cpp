@@ -23,9 +23,9 @@ namespace fs = std::filesystem;
 
 const fs::path kExamples = fs::path(QUILLA_SOURCE_DIR) / "examples";
 
-std::vector<std::string> Names() {
+std::vector<std::string> NamesIn(const char* folder) {
   std::vector<std::string> names;
-  for (const auto& file : fs::directory_iterator(kExamples / "src")) {
+  for (const auto& file : fs::directory_iterator(kExamples / folder)) {
     names.push_back(file.path().stem().string());
   }
   return names;
@@ -47,6 +47,7 @@ TEST_P(ExampleTest, AssemblesAndComesToItsResult) {
   ASSERT_EQ(RunScript(source, transcript, transcript), kPlayed) << transcript.str();
   EXPECT_EQ(transcript.str().find("refused"), std::string::npos) << transcript.str();
   EXPECT_EQ(ContentOf(program), ContentOf(kExamples / program));
+  EXPECT_EQ(ContentOf(hex_file), ContentOf(kExamples / hex_file));
 
   fs::remove(hex_file);
   std::istringstream script("path " + program.string() + "\nclick OpenFile\npath " +
@@ -86,7 +87,18 @@ TEST_P(ExampleTest, AssemblesAndComesToItsResult) {
   EXPECT_GT(promises, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, testing::ValuesIn(Names()),
+TEST(DemonstrationTest, EveryOneCanBePlayedToItsEnd) {
+  const ScratchFolder folder(kExamples / "none");
+  for (const std::string& name : NamesIn("demos")) {
+    std::ifstream script(kExamples / "demos" / (name + ".robot"));
+    std::ostringstream transcript;
+    EXPECT_EQ(RunScript(script, transcript, transcript), kPlayed) << transcript.str();
+    EXPECT_EQ(transcript.str().find("refused"), std::string::npos) << transcript.str();
+    EXPECT_EQ(transcript.str().find("-> cancel"), std::string::npos) << "a dialog without a path";
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, testing::ValuesIn(NamesIn("src")),
                          [](const auto& example) { return example.param; });
 
 }  // namespace

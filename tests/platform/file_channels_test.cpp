@@ -86,21 +86,6 @@ TEST_F(FileChannelsTest, NumbersFitTheirWidth) {
   }
 }
 
-TEST_F(FileChannelsTest, ChannelsAreOpenOnceAndForOneUse) {
-  Write("1");
-  channels_.OpenInput(kChannel, "file");
-  EXPECT_EQ(FailureOf([&] { channels_.OpenInput(kChannel, "file"); }), ErrorNumber::kChannelOpen);
-  EXPECT_EQ(FailureOf([&] { channels_.OpenOutput(kChannel, "new"); }), ErrorNumber::kChannelOpen);
-  EXPECT_FALSE(std::filesystem::exists("new"));
-  EXPECT_EQ(channels_.ReadNumber16(kChannel), 1) << "the file that was open";
-  channels_.OpenOutput(2, "new");
-  channels_.Abandon(2);
-  channels_.Close(kChannel);
-  channels_.Close(kChannel);
-  EXPECT_EQ(FailureOf([&] { channels_.ReadText(kChannel); }), ErrorNumber::kBadChannel);
-  EXPECT_EQ(FailureOf([&] { channels_.WriteLine(2, {}); }), ErrorNumber::kBadChannel);
-}
-
 TEST_F(FileChannelsTest, FilesThatCannotBeOpenedLeaveTheChannelClosed) {
   std::filesystem::create_directory("folder");
   for (const std::string path : {"", "missing", "missing/file", "file\xFF/x"}) {

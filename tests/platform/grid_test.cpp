@@ -75,24 +75,5 @@ TEST_F(GridTest, CurrentCellIsReportedOnceForEachMove) {
   }
 }
 
-TEST_F(GridTest, DragEndsInsideAndHeadingRowsStayBehind) {
-  int releases = 0;
-  grid_.MouseUp = [&] { ++releases; };
-  grid_.PressCell(1, 2);
-  for (const auto& [release, row_sel] : {std::pair{3, 3}, {99, 3}, {-5, 0}}) {
-    grid_.ReleaseAt(release);
-    EXPECT_EQ(grid_.RowSel(), row_sel);
-  }
-  EXPECT_EQ(releases, 3);
-  grid_.SetFixedRows(1);
-  grid_.PressCell(0, 1);
-  EXPECT_EQ(grid_.Row(), 1);
-  EXPECT_EQ(grid_.Col(), 2);
-  EXPECT_EQ(grid_.MouseRow(), 0);
-  EXPECT_EQ(grid_.MouseCol(), 1);
-  grid_.ReleaseAt(0);
-  EXPECT_EQ(grid_.RowSel(), 1);
-}
-
 }  // namespace
 }  // namespace quilla

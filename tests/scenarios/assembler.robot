@@ -52,19 +52,14 @@ HexList 3 ":00000001FF"
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "."
 box critical "Unable to save file." ok -> ok
-> click AssembleFile ; changes
+> click AssembleFile ; show TipsLabel ; dump TempTable
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "out \xC3\xA9.hex"
-session: Selection=1 CurrentRow=1 LastLine=13 SelectionAnchor=0 ClickedRow=0 SelectedInstruction=58
-    CurrentOpcode=201 SavedCells(2)="" SavedCells(3)="" SavedCells(4)="" SavedCells(5)=""
-    HexPath="out \xC3\xA9.hex"
-HexList 0=":01FF00768A" 1=":010000C936" 2=":01100000C926" 3=":00000001FF"
-LastAddressList count=4 (3 in at 0) 0="00FF" 1="1FFF" 2="0000" 3="1000"
-OriginList count=4 (3 in at 0) 0="00FF" 1="2000" 2="0000" 3="1000"
-StringTable rows=35 (3 in at 1) 4..5="" | Labels count=0 | Variables count=0
-Table1 rows=35 (3 in at 0) | 0 "Origin" "00FF" | 1 - "00FF" "HLT" "76" default | 2 "Origin" "2000"
-Table1 3 - "0000" | 4 - "0000" "RET" "C9" | 5 "Origin" "1000" "" "" "" | 6 "" "1000" "RET" "C9"
-TempTable rows=35 | 0 "00FF" - - "Origin" | 1 "76" | 2 "2000" - - "Origin" | 3 "0000" - - "Origin"
-TempTable 4 "C9" | 5 "1000" - - "Origin" | 6 "C9"
-Table1 colors 0,0..4=E0E0E0 1,2=cursor 2,0..4=E0E0E0 5,0..4=E0E0E0 7,2=own
-caption: TipsLabel="Program Mode."
+TipsLabel caption="Program Mode." enabled=1 visible=1
+TempTable 0 "00FF" "" "" "Origin"
+TempTable 1 "76" "" "" ""
+TempTable 2 "2000" "" "" "Origin"
+TempTable 3 "0000" "" "" "Origin"
+TempTable 4 "C9" "" "" ""
+TempTable 5 "1000" "" "" "Origin"
+TempTable 6 "C9" "" "" ""

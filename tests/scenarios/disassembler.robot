@@ -100,33 +100,31 @@ Table1 16 - "2001" "ANI  v2" "E6   0F" default | 17 - "2003" "HLT" "76" default
 Table1 18 - "2004" "DFB" "3E" default
 Table1 colors 0,0..4=E0E0E0 1,2=cursor 10,0..4=E0E0E0 14,0..4=E0E0E0
 caption: TipsLabel="Disassembling completed successfully."
-# Addresses beyond FFFF, in a file of quoted and plain items: a first mark at 10001 ends the check
-# without a word, operands do not follow at another address, and the program is too long.
-> path top.hex ; click DisassembleFile ; click DataDialog.DataType 1
-box question "Save changes to Pgm1.baf?" yesnocancel -> cancel
-refused DataDialog.DataType hidden
-> cell DataDialog.DataTable 3 0 ; click DataDialog.DoneButton ; settle
-refused DataDialog.DataTable hidden
-refused DataDialog.DoneButton hidden
-> cell DataDialog.DataTable 2 0
-refused DataDialog.DataTable hidden
-> click DataDialog.DoneButton ; settle ; changes
-refused DataDialog.DoneButton hidden
-session: MessageResult="2"
-> close DataDialog ; path top.hex ; click DisassembleFile ; click DataDialog.DataType 1
-refused DataDialog hidden
-box question "Save changes to Pgm1.baf?" yesnocancel -> cancel
-refused DataDialog.DataType hidden
+# Addresses beyond FFFF, in a file of quoted and plain items: operands do not follow at another
+# address, and the program is too long.
+> answer no ; path top.hex ; click DisassembleFile ; click DataDialog.DataType 1
+box question "Save changes to Pgm1.baf?" yesnocancel -> no
+dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "top.hex"
+open DataDialog
+> cell DataDialog.DataTable 2 0 ; click DataDialog.DoneButton ; settle
+box critical "Data missing for instruction in Address 10000. Please check data table." ok -> ok
 > drag DataDialog.DataTable 1 0 6 0 ; click DataDialog.DataType 0 ; cell DataDialog.DataTable 2 0
-refused DataDialog.DataTable hidden
-refused DataDialog.DataType hidden
-refused DataDialog.DataTable hidden
-> click DataDialog.DoneButton ; settle ; changes
-refused DataDialog.DoneButton hidden
-# Unsaved changes are asked for: a cancel and a save that is given up leave all as it was.
-> row HLT ; answer cancel ; click DisassembleFile ; answer yes ; click DisassembleFile ; changes
-refused INST hidden
+> click DataDialog.DoneButton ; settle
+box critical "Compile error. Invalid address in origin FFFFh." ok -> ok
+closed DataDialog
+> changes
+session: Selection=2 CurrentRow=2 LastLine=8 AddressError=-1 HexPath="top.hex" HexTitle="top.hex"
+    NextLabelNumber=1 NextVariableNumber=0
+HexList count=4 (1 out at 0) 0=":03FFFF00003AC9FC" 1=":02100000C376B5" 2=":01100200ae3F"
+LabelCombo count=1 | LabelEqtList count=1 (2 out at 0) 0="ae76" | LastAddressList count=0
+OriginList count=1 (2 out at 0) 0="FFFF" | StringTable rows=18 (11 out at 1) 5="" 7="a0"
+Variables count=0 | Table1 rows=18 (11 out at 0) | 0 "Origin" "FFFF" "" "" ""
+Table1 1 - "FFFF" "NOP" "00" default | 2 - - "DFB" "3A" default | 3 "" "" "RET" "C9" default
+Table1 4 "" "" "" "" "" | 5 - "" "" "" "" | 6 "Origin" "1000" "" "" ""
+Table1 7 - "" "JMP  a0" "C3   76   ae" | colors 0,0..4=E0E0E0 2,2=cursor 3,0..4=own 6,0..4=E0E0E0
+# Unsaved changes are asked for: a cancel and a save that fails leave all as it was.
+> answer cancel ; click DisassembleFile ; answer yes ; click DisassembleFile ; changes
 box question "Save changes to Pgm1.baf?" yesnocancel -> cancel
 box question "Save changes to Pgm1.baf?" yesnocancel -> yes
 box critical "Unable to save file." ok -> ok
-session: MessageResult="1" | caption: TipsLabel="Data Mode."
+OriginList 1="1000" | caption: TipsLabel="Data Mode."

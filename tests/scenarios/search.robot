@@ -185,14 +185,15 @@ Table1 rows=32 (1 out at 1) | 1 - - "JMP  loop" "C3   XX   XX" | 2 "" - "HLT" "7
 Table1 4 "" - "" "" "" | 5 "" "" | 6 - - "" "" "" | colors 2,0=00FF00/000000 3,2=cursor 5,0..4=own
 caption: ProgrammingPanel="Brelvanor Quilla - Pgm1.baf" TipsLabel="Assigning Addresses . . ."
 # On the first row, once it is no origin, a label stays selected beside another one: the first of
-# the two alone takes the new name.
-> escape ; answer no ; click NewFile ; click DeleteLabels ; cell Table1 0 0 ; escape ; row NOP
+# the two alone takes the new name, which is listed once for it and an operand.
+> answer no ; click NewFile ; click DeleteLabels ; cell Table1 0 0 ; escape ; row "JMP one"
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
 > click PlaceLabelTool ; cell Table1 0 0 ; type PlaceText zero ; enter ; cell Table1 1 0
-> type PlaceText one ; enter ; escape ; click ReplaceLabel ; cell Table1 0 0 ; cell Table1 1 0
-> type ReplaceText both ; enter ; click ReplaceDoneButton ; changes
-session: Selection=2 CurrentRow=2 LastLine=1 SelectionAnchor=0 ClickedRow=1 SelectedInstruction=78
-    CurrentOpcode=0 MessageResult="7" | StringTable 1="" | Labels count=3 (1 in at 0)
-Labels 0 "zero" "XXXX" "0" "0" "0" | 1 "one" - "1" "1" "0" | 2 "both" - "0" "0" | Table1 0 "both"
-Table1 1 "one" - "NOP" "00" | 2 - - "" "" "" | colors 0,0=own 2,0=own 2,2=cursor 3,2=own
+> click ExistingPlaceOption ; enter ; escape ; click ReplaceLabel ; cell Table1 0 0
+> cell Table1 1 0 ; cell Table1 1 2 ; type ReplaceText both ; enter ; click ReplaceDoneButton
+> changes
+session: Selection=2 CurrentRow=2 LastLine=1 ClickedRow=1 SelectedInstruction=37 CurrentOpcode=195
+    MessageResult="7" | StringTable 1="both" | Labels count=3 (1 in at 0)
+Labels 0 "one" "XXXX" "1" "1" "0" | 1 "zero" - - - "0" | 2 "both" - "0" "0" "1" | Table1 0 "both"
+Table1 1 "one" - "JMP  both" | 2 - - "" "" "" | colors 0,0=own 2,0=own 2,2=cursor 3,2=own
 caption: TipsLabel="Program Mode."

@@ -33,12 +33,10 @@ session: Cursor=2 FileChanged=1 SelectionAnchor=1 SelectedInstruction=79 Current
     SavedCells(2)="NOP" SavedCells(3)="00" SavedCells(4)="No Operation." MessageResult="7"
 Table1 1 - - "HLT" "76" default | caption: TipsLabel="Program Mode."
 # It goes by the last answer, whatever the question was: Cancel, no new file, with nothing asked.
-# Quitting asks whether or not there are changes.
-> path answers.baf ; click SaveFile ; answer cancel ; click QuitFile ; click NewFile
-dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "answers.baf"
+> path a.baf ; click SaveFile ; click QuitFile ; click NewFile ; show TipsLabel ; answer ok
+dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "a.baf"
 box question "Are you sure you want to quit? You will lose unsaved information." okcancel -> cancel
-> show TipsLabel
 TipsLabel caption="File Saved." enabled=1 visible=1
-> answer ok ; click QuitFile
+> click QuitFile
 box question "Are you sure you want to quit? You will lose unsaved information." okcancel -> ok
 ended

@@ -20,6 +20,7 @@
 #include "panel/programming_panel.h"
 #include "panel/running_program.h"
 #include "platform/failure_of.h"
+#include "platform/number_text.h"
 #include "robot/scripted_outside.h"
 #include "window/qt_clock.h"
 #include "window/qt_event_loop.h"
@@ -140,12 +141,15 @@ class LinkTest : public QtSerialPortTest {
     ASSERT_TRUE(trainer_.waitForReadyRead());
     Plug(QString::fromUtf8(trainer_.readLine()).trimmed());
   }
-  /// A hex file of so many equal records; gives what a download sends of it.
+  /// A hex file of so many full records; gives what a download sends of it.
   std::string WriteHexFile(const QString& path, int count) {
     std::ofstream file(path.toStdString(), std::ios::binary);
-    const std::string record = ":10800000000102030405060708090A0B0C0D0E0FF8";
     std::string sent;
     for (int i = 0; i < count; ++i) {
+      std::string record = ":10" + AddressText(0x8000 + 0x10 * i) + "00";
+      for (int byte = 0; byte < 0x10; ++byte) record += PaddedHexText((i + byte * 5) % 0x100, 2);
+      const std::string checksum = Checksum(record);
+      record += checksum.substr(checksum.size() - 2);
       sent += record;
       file << '"' << record << "\"\r\n";
     }
@@ -208,14 +212,9 @@ TEST_F(LinkTest, ASlowLineLosesNothing) {
   When("Uploading . . .", [this] { trainer_.kill(); });
   Transfer(session().menu.UploadFile);
   EXPECT_EQ(tip(), "Upload incomplete.") << "the trainer has gone";
-}
-
-TEST_F(LinkTest, EscEndsTheWaitForASilentTrainer) {
-  const Peer peer;
-  Plug(peer.name());
-  When("Ready for upload . . .", [this] { session().ProgrammingPanel.cancel_button()->Choose(); });
-  Transfer(session().menu.UploadFile);
-  EXPECT_EQ(tip(), "Upload incomplete.");
+  EXPECT_FALSE(session().PortOpen);
+  Transfer(session().menu.DownloadFile, Path("image.hex"));
+  EXPECT_TRUE(TipComes("Download incomplete."));
 }
 
 }  // namespace

@@ -74,6 +74,12 @@ void GuidePage::TurnTo(const QString& anchor) {
   setTextCursor(cursorForPosition({}));          // Tab goes on to the first link from here
 }
 
+// The colours of links stand in the page that has been read.
+void GuidePage::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && !source().isEmpty()) reload();
+}
+
 void GuidePage::Zoom(int steps) {
   const int wanted = qBound(kSmallestZoom, zoom_ + steps, kLargestZoom);
   zoomIn(wanted - zoom_);

@@ -22,6 +22,9 @@ class GuidePage : public QTextBrowser {
   void ZoomBack() { Zoom(-zoom_); }
   QVariant loadResource(int type, const QUrl& url) override;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  Q_SIGNALS:
   /// A demonstration was chosen, by its name.
   void DemonstrationChosen(const QString& name);

@@ -68,6 +68,13 @@ TEST(GuideTest, TurnsToASectionAndFollowsItsLinks) {
   EXPECT_EQ(page.source(), QUrl("qrc:/docs/instruction-set.md")) << "no page";
   page.backward();
   EXPECT_EQ(page.cursorForPosition({40, 5}).block().text().toStdString(), "Equivalents");
+  QPalette palette;
+  palette.setColor(QPalette::Link, Qt::red);
+  QApplication::setPalette(palette);
+  QEvent change(QEvent::PaletteChange);
+  QApplication::sendEvent(&page, &change);
+  EXPECT_TRUE(page.toHtml().contains("#ff0000"));
+  QApplication::setPalette(QPalette());
 }
 
 }  // namespace

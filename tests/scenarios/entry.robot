@@ -67,18 +67,6 @@ session: Cursor=2 PanelState=1 FileChanged=1 SelectionAnchor=1 SelectedInstructi
     CurrentOpcode=198 MessageResult="1" | StringTable 1="n" | Table1 1 - - - "07"
 Table1 2..3 - - "" "" "" | caption: EntryMode="Data &Mode" TipsLabel="Program Mode."
 shown: InstructionBox | hidden: DataBox
-== growth
-# A table of 12 rows that is filled to its last one: the ten rows ahead come with the first move of
-# the cursor beyond the last line that was visited.
-> answer no ; path last_row.baf ; click OpenFile ; cell Table1 11 2
-dialog open "Open" "Brelvanor Assembler Files (*.baf)|*.baf" -> "last_row.baf"
-> row NOP ; changes
-session: Cursor=12 LastLine=12 FileOrigin=2 FileChanged=1 SelectionAnchor=11 SelectedInstruction=78
-    FileName="last_row.baf" ProjectPath="last_row.baf" | LabelCombo 0="x" | LabelEqtList 0="1234"
-StringTable 1="x" 4="y" | Variables 0 "y" "0F" | Table1 1 - - "LXI  H,  x" "21   34   12"
-Table1 2 - - "ODD" "1234" | 3 - - "NOP" "00" | 4 - - "MVI  A,   y" "3E   0F"
-Table1 11 - - "NOP" "00" default | 12 - - "HLT" "76" "the end"
-caption: ProgrammingPanel="Brelvanor Quilla - last_row.baf" TipsLabel="Program Mode."
 == write modes
 # In Overwrite mode a click only moves the cursor, which walks onto the next line; on the last row
 # and on an origin a click opens a line, and above an origin so does the end of an instruction.

@@ -97,17 +97,10 @@ page PrintLabelPanel "Pgm1.baf" "lost && found" 2 2
 line 0 "a" "XXXX" "" "b" "XXXX" "" "c" "XXXX" "" "v0" "XX" shade=-
 # An overflow in the first block stops the print, and the panel with it.
 > cell Table1 0 0 ; key NumberAcceptButton FFF9 ; click NumberAcceptButton ; cell Table1 1 2
-> answer ok ; click PrintFile ; settle ; changes ; click QuitFile ; close ProgrammingPanel ; settle
+> answer ok ; click PrintFile ; settle ; show TipsLabel ; click QuitFile ; close ProgrammingPanel
 box information "Check the default settings of the printer and click 'OK' to print. To cancel print, click 'Cancel'" okcancel -> ok
 box critical "Compile error. Invalid address in origin FFF9h." ok -> ok
-session: Cursor=4 PanelState=1 LastLine=4 FileChanged=1 AddressError=-1 SelectionAnchor=1
-    ClickedRow=0 SelectedInstruction=6 CurrentOpcode=50 MessageResult="1" | OriginList 0="FFF9"
-StringTable 1="a" 2="b" 3="v0" 4="c" | Labels 0 "a" "XXXX" "0" "0" "1" | 1 "b" "XXXX" "0" "0" "1"
-Labels 2 "c" "XXXX" "0" "0" "1" | Variables 0 "v0" "XX" | Table1 0 - "FFF9"
-Table1 1 - "FFF9" "JMP  a" "C3   XX   XX" default | 2 - "FFFC" "CALL  b" "CD   XX   XX" default
-Table1 3 - "FFFF" "ADI   v0" "C6   XX" default | 4 - "8008" "STA  c" "32   XX   XX" default
-caption: TipsLabel="Print aborted." | hidden: PrintCommentBox
-enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/* | disabled: ProgrammingPanel
-checked: PageOption 2 | unchecked: PageOption 1
+TipsLabel caption="Print aborted." enabled=0 visible=1
 refused QuitFile disabled
 refused ProgrammingPanel disabled
+> settle

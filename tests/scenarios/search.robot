@@ -172,18 +172,13 @@ box question "Save changes to replace.baf?" yesnocancel -> no
 > click NewReplaceOption ; click ReplaceAcceptButton ; cell Table1 1 2 ; type ReplaceText x
 > clear ReplaceText ; click NewReplaceOption ; click ReplaceAcceptButton ; click ReplaceDoneButton
 box critical "The string '' already exists. Please enter another string." ok -> ok
-> click DeleteUnusedLabels ; click AssignAddress ; settle ; changes
+> click DeleteUnusedLabels ; click AssignAddress ; settle ; list LabelCombo ; dump Table1 1 2
 box information "Unused strings have been deleted." ok -> ok
 box critical "Compile error. There is more than one instance of the label '' in the Label field." ok -> ok
-session: Selection=3 CurrentRow=3 LastLine=2 FileOrigin=1 AddressError=-1 ClickedRow=2
-    SelectedInstruction=79 CurrentOpcode=118 FileName="Pgm1.baf" MessageResult="1"
-LabelCombo count=2 (3 out at 0) 0="loop" 1="" | LabelEqtList count=2 (3 out at 0)
-LabelLineList count=2 (3 out at 0) 0="0" 1="1" | LabelPlacedList count=2 (3 out at 0) 0="0" 1="1"
-LabelUsedList count=2 | LastAddressList count=0 | OriginList count=0
-StringTable rows=32 (1 out at 1) 1="loop" 2..3="" 6="" | Variables count=0
-Table1 rows=32 (1 out at 1) | 1 - - "JMP  loop" "C3   XX   XX" | 2 "" - "HLT" "76" | 3 - - "" "" ""
-Table1 4 "" - "" "" "" | 5 "" "" | 6 - - "" "" "" | colors 2,0=00FF00/000000 3,2=cursor 5,0..4=own
-caption: ProgrammingPanel="Brelvanor Quilla - Pgm1.baf" TipsLabel="Assigning Addresses . . ."
+LabelCombo 0 "loop"
+LabelCombo 1 ""
+Table1 1 "" "" "JMP  loop" "C3   XX   XX" "Jump to address pointed by 'loop'."
+Table1 2 "" "" "HLT" "76" "Halt program execution."
 # On the first row, once it is no origin, a label stays selected beside another one: the first of
 # the two alone takes the new name, which is listed once for it and an operand.
 > answer no ; click NewFile ; click DeleteLabels ; cell Table1 0 0 ; escape ; row "JMP one"
@@ -192,8 +187,13 @@ box question "Save changes to Pgm1.baf?" yesnocancel -> no
 > click ExistingPlaceOption ; enter ; escape ; click ReplaceLabel ; cell Table1 0 0
 > cell Table1 1 0 ; cell Table1 1 2 ; type ReplaceText both ; enter ; click ReplaceDoneButton
 > changes
-session: Selection=2 CurrentRow=2 LastLine=1 ClickedRow=1 SelectedInstruction=37 CurrentOpcode=195
-    MessageResult="7" | StringTable 1="both" | Labels count=3 (1 in at 0)
-Labels 0 "one" "XXXX" "1" "1" "0" | 1 "zero" - - - "0" | 2 "both" - "0" "0" "1" | Table1 0 "both"
-Table1 1 "one" - "JMP  both" | 2 - - "" "" "" | colors 0,0=own 2,0=own 2,2=cursor 3,2=own
-caption: TipsLabel="Program Mode."
+session: Selection=2 CurrentRow=2 LastLine=1 FileOrigin=1 AddressError=-1 ClickedRow=1
+    FileName="Pgm1.baf" MessageResult="7"
+LabelCombo count=3 (2 out at 0) 0="one" 1="zero" 2="both"
+LabelEqtList count=3 (2 out at 0) 0="XXXX" | LabelLineList count=3 (2 out at 2) 0="1"
+LabelPlacedList count=3 | LabelUsedList count=3 (3 out at 2) 0="0" | LastAddressList count=0
+OriginList count=0 | StringTable rows=32 (1 out at 1) 1="both" 2..3="" 6="" | Variables count=0
+Table1 rows=32 (1 out at 0) | 0 "both" "8000" "" "" "" | 1 "one" - "JMP  both" "C3   XX   XX"
+Table1 2 "" - "" "" "" | 3 - - "" "" "" | 4 "" - "" "" "" | 5 "" "" | 6 - - "" "" ""
+Table1 colors 0,1..4=E0E0E0 2,2=cursor 5,0..4=own
+caption: ProgrammingPanel="Brelvanor Quilla - Pgm1.baf"

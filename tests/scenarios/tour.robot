@@ -25,20 +25,11 @@ open RenumberDialog
 > key RenumberDialog.XXAcceptButton 07 ; enter ; click RenumberDialog.DoneButton
 closed RenumberDialog
 # picture 05-assembled
-> path adder.hex ; click AssembleFile ; settle ; changes ; hover ProgrammingPanel
+> path adder.hex ; click AssembleFile ; settle ; list HexList ; hover ProgrammingPanel
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"
-session: Cursor=6 LastLine=5 FileChanged=1 ClickedRow=5 SelectedInstruction=37 CurrentOpcode=195
-    HexPath="adder.hex" MessageResult="1"
-HexList 0=":0B8000003E05060780325080C3088058" 1=":00000001FF" | LastAddressList 0="800A"
-StringTable 1="first" 2="second" 4="sum" 5="stop" | Labels 0 "sum" "8050" "0" "0" "1"
-Labels 1 "stop" "8008" "5" "1" "1" | Variables 0 "first" "05" | 1 "second" "07"
-Table1 1 - "8000" "MVI  A,   first" "3E   05" default
-Table1 2 - "8002" "MVI  B,   second" "06   07" default | 3 - "8004" "ADD  B" "80" default
-Table1 4 - "8005" "STA  sum" "32   50   80" default
-Table1 5 "stop" "8008" "JMP  stop" "C3   08   80" default | TempTable rows=32
-TempTable 0 "8000" - - "Origin" | 1 "3E" "05" | 2 "06" "07" | 3 "80" | 4 "32" "50" "80"
-TempTable 5 "C3" "08" "80" | caption: TipsLabel="Program Mode."
+HexList 0 ":0B8000003E05060780325080C3088058"
+HexList 1 ":00000001FF"
 # The places that a label could be replaced in, one of them selected.
 # picture 06-replace
 > click ReplaceLabel ; cell Table1 5 2 ; hover ProgrammingPanel
@@ -58,13 +49,10 @@ box question "Save changes to Pgm1.baf?" yesnocancel -> no
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"
 open DataDialog
 > drag DataDialog.DataTable 1 0 11 0 ; hover DataDialog
-> click DataDialog.DoneButton ; settle ; changes
+> click DataDialog.DoneButton ; settle ; dump Table1 1 5
 closed DataDialog
-session: LastLine=6 FileOrigin=4 SelectionAnchor=5 HexTitle="adder.hex" MessageResult="7"
-    NextLabelNumber=2 NextVariableNumber=2 | LabelCombo 0="a0" 1="a1" | LabelLineList count=0
-LabelPlacedList count=0 | LabelUsedList count=0
-StringTable rows=16 (16 out at 1) 1="v0" 2="v1" 4="a0" 5="a1" | Variables 0 "v0" | 1 "v1"
-Table1 rows=16 (16 out at 1) | 1 - "8000" "MVI  A,  v0" "3E   05" default
-Table1 2 - "8002" "MVI  B,   v1" "06   07" default | 3 - "8004" "ADD  B " "80" default
-Table1 4 - "8005" "STA   a0" "32   50   80" default | 5 "a1" "8008" "JMP  a1" "C3   08   80" default
-caption: TipsLabel="Disassembling completed successfully."
+Table1 1 "" "8000" "MVI  A,  v0" "3E   05" "Move the equivalent of 'v0' into Accumulator."
+Table1 2 "" "8002" "MVI  B,   v1" "06   07" "Move the equivalent of 'v1' into B-register."
+Table1 3 "" "8004" "ADD  B " "80" "Add content of B-register to content of Accumulator."
+Table1 4 "" "8005" "STA   a0" "32   50   80" "Store content of Accumulator in address pointed by 'a0'."
+Table1 5 "a1" "8008" "JMP  a1" "C3   08   80" "Jump to address pointed by 'a1'."

@@ -111,13 +111,6 @@ TEST_F(PrintTest, ARunIsOneDocumentWithEveryRowAtItsPage) {
   EXPECT_TRUE(pages[3].endsWith("v121 XX"));
 }
 
-TEST_F(PrintTest, ACancelOfTheFileStopsThePrint) {
-  WhenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
-  ClickPrint();
-  EXPECT_TRUE(session().ProgrammingPanel.enabled());
-  EXPECT_EQ(session().TipsLabel.caption(), "New File.");
-}
-
 TEST_F(PrintTest, APlaceThatCannotBeWrittenIsToldOrEndsTheRun) {
   const QString folder = PathOf("gone");
   WhenOpen<QFileDialog>([&](QFileDialog& dialog) {

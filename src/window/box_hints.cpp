@@ -45,7 +45,7 @@ constexpr std::array kNameBoxes = {
 const char* FaultOf(const std::string& name) {
   if (name.empty() || IsGoodName(name)) return nullptr;
   const bool begins_well = name.front() >= 'a' && name.front() <= 'z';
-  return begins_well ? "The key is grey: only small letters and digits make a name."
+  return begins_well ? "The key is grey: only small letters and digits."
                      : "The key is grey: a name begins with a small letter.";
 }
 
@@ -91,14 +91,15 @@ QString NumberHint(const FormMirror& mirror) {
   if (!mirror.Get<Button>("NumberAcceptButton").enabled()) {
     return QString("0 to 7, clicked or typed, and the row is written.\n") + kGivesRowBack;
   }
-  return "Four hexadecimal digits, clicked or typed; each moves the others to the left.\n"
+  return "Four hexadecimal digits, clicked or typed.\n"
+         "Each moves the others to the left.\n"
          "Enter accepts. Esc leaves all as it was.";
 }
 
 QString CommentHint(const FormMirror& mirror) {
-  QStringList lines("Any text; \" and & cannot be typed. Ignore gives the old one back.");
+  QStringList lines("Any text; \" and & cannot be typed.\nIgnore gives the old one back.");
   if (!mirror.Get<Button>("DefaultCommentButton").enabled()) {
-    lines << "Default Comment is grey: the row holds no instruction.";
+    lines << "Default Comment is grey: no instruction.";
   }
   if (!mirror.Get<Button>("CommentNextButton").enabled()) {
     lines << "Next is grey: there is no row below.";
@@ -123,7 +124,8 @@ QString HintOf(const FormMirror& mirror, const Box& box) {
   }
   if (box.name() == "DataBox") {
     return "Two hexadecimal digits, clicked or typed.\n"
-           "Enter writes them as a row at the cursor. Ctrl+M leads back to the instructions.";
+           "Enter writes them as a row at the cursor.\n"
+           "Ctrl+M leads back to the instructions.";
   }
   if (box.name() == "FindBox") {
     return "Find colours every row with the label.\nDone takes the colours off.";

@@ -1,12 +1,19 @@
 #include "entry/comment_tool.h"
 
+#include <string>
+
 #include "program/default_comment.h"
 
 namespace quilla {
 namespace {
 
-/// Characters that a comment must not end with while it is typed.
-bool IsBarred(char last) { return last == '&' || last == '"'; }
+/// What a comment becomes while it is typed: it ends with no ampersand, and holds no double quote,
+/// which would end it in the project file.
+std::string Cleaned(std::string text) {
+  std::erase(text, '"');
+  text.resize(text.find_last_not_of('&') + 1);
+  return text;
+}
 
 }  // namespace
 
@@ -52,11 +59,7 @@ void CommentTool::EditComment(int row) {
 }
 
 void CommentTool::CommentsTxt_Change() {
-  std::string text = CommentsTxt_.text();
-  if (!text.empty() && IsBarred(text.back())) {
-    text.pop_back();
-    CommentsTxt_.set_text(text);
-  }
+  CommentsTxt_.set_text(Cleaned(CommentsTxt_.text()));
   session_.Table1.SetTextMatrix(session_.ClickedRow, kCommentColumn, CommentsTxt_.text());
 }
 

@@ -212,9 +212,14 @@ void Bind(FormMirror& mirror, TextBox& text_box, QLineEdit& widget) {
     if (property == Property::kText) ShowText(text_box, widget);
     if (property == Property::kActive) ShowActive(widget, text_box.active());
   });
+  // Where the box takes less than was typed, the cursor stays before what stood behind it.
   QObject::connect(&widget, &QLineEdit::textEdited, &shown, [&](const QString& text) {
+    const auto behind = text.size() - widget.cursorPosition();
     mirror.gate().Enter([&] { text_box.Edit(FromQt(text)); });
     ShowText(text_box, widget);
+    const QString left = widget.text();
+    if (left != text)
+      widget.setCursorPosition(static_cast<int>(std::max<qsizetype>(left.size() - behind, 0)));
   });
 }
 

@@ -316,6 +316,9 @@ TEST_F(KeyboardTest, CommentsAreTypedIntoTheTable) {
   Press(Qt::Key_D, Qt::AltModifier);  // of a button that is disabled
   EXPECT_EQ(Cell(1, kCommentColumn), "5 > 4");
   EXPECT_EQ(Find<QLineEdit>("CommentsTxt").text(), "5 > 4");
+  Find<QLineEdit>("CommentsTxt").setCursorPosition(1);
+  Type("\"0");
+  EXPECT_EQ(Find<QLineEdit>("CommentsTxt").text(), "50 > 4") << "a double quote goes at once";
 }
 
 TEST_F(KeyboardTest, ShortcutsAreDeadWhileTheirEntryIsDisabled) {

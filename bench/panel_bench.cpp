@@ -26,7 +26,8 @@ struct Parts {
   Origins origins{session, states, rows};
   StringLists strings{session, states};
   AddressAssignment addresses{session, states, rows};
-  Assembler assembler{session, states, addresses, strings};
+  RescueFile rescue{session};
+  Assembler assembler{session, states, addresses, strings, rescue};
 };
 
 int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(0)); }

@@ -5,13 +5,16 @@
 #include "panel/quilla.h"
 #include "window/help.h"
 #include "window/qt_outside.h"
+#include "window/session_end.h"
 
 int main(int argc, char** argv) {
+  quilla::LetLongFilesFail();
   QApplication application(argc, argv);
   QApplication::setApplicationName("Quilla");
   QApplication::setQuitOnLastWindowClosed(false);
   quilla::QtOutside outside;
   quilla::Quilla quilla(outside.ports());
+  quilla::SessionEnd session_end(quilla, outside);
   quilla::Help help(quilla);
   outside.event_loop().on_made = [&](quilla::Form& form, QWidget& window) {
     help.AddTo(form, window);

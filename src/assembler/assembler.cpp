@@ -15,8 +15,12 @@ constexpr int kSaveChannel = 6;
 }  // namespace
 
 Assembler::Assembler(Session& session, StateMachine& states, AddressAssignment& addresses,
-                     StringLists& strings)
-    : session_(session), states_(states), addresses_(addresses), strings_(strings) {
+                     StringLists& strings, RescueFile& rescue)
+    : session_(session),
+      states_(states),
+      addresses_(addresses),
+      strings_(strings),
+      rescue_(rescue) {
   TempTable_.Hide();
   session_.menu.AssembleFile.Click = [this] { AssembleFile_Click(); };
 }
@@ -89,7 +93,7 @@ void Assembler::SplitOpcodes() {
 }
 
 void Assembler::CutRecords() {
-  RecordWriter writer(session_.HexList);
+  RecordWriter writer(session_.HexList, [this] { NeverEnd(); });
   const int last_row = TempTable_.Rows() - 1;
   bool in_block = false;
   for (int row = 0; row <= last_row; ++row) {
@@ -107,6 +111,11 @@ void Assembler::CutRecords() {
     }
   }
   if (in_block) writer.EndBlock();
+}
+
+void Assembler::NeverEnd() {
+  rescue_.Write();
+  session_.outside.event_loop.NeverReturn();
 }
 
 void Assembler::AddChecksums() {

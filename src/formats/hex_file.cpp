@@ -25,11 +25,13 @@ CommonDialog HexDialog(Session& session, const char* title) {
 }
 
 void WriteRecords(Session& session, int channel) {
+  std::string text;
+  for (const std::string& record : session.HexList.items()) {
+    AppendLine(text, {FileItem::Text(record)});
+  }
   FileChannels& file = session.channels;
   file.OpenOutput(channel, session.HexPath);
-  for (const std::string& record : session.HexList.items()) {
-    file.WriteLine(channel, {FileItem::Text(record)});
-  }
+  file.Write(channel, text);
   file.Flush(channel);
   file.Close(channel);
 }
@@ -51,13 +53,15 @@ bool SaveHexRecords(Session& session, int channel, FailedWrite failed_write,
                     const std::function<void()>& path_known) {
   bool closes_channel = true;
   try {
-    CommonDialog dialog = HexDialog(session, kSaveTitle);
-    dialog.Name = NameWithExtension(session.FileName, kHexExtension);
-    dialog.ShowSave();
-    session.HexPath = dialog.FileName;
-    path_known();
-    closes_channel = failed_write == FailedWrite::kClosesChannel;
-    WriteRecords(session, channel);
+    Trapped([&] {
+      CommonDialog dialog = HexDialog(session, kSaveTitle);
+      dialog.Name = NameWithExtension(session.FileName, kHexExtension);
+      dialog.ShowSave();
+      session.HexPath = dialog.FileName;
+      path_known();
+      closes_channel = failed_write == FailedWrite::kClosesChannel;
+      WriteRecords(session, channel);
+    });
     return true;
   } catch (const Failure& failure) {
     if (failure.number() != ErrorNumber::kDialogCancelled) {
@@ -72,15 +76,18 @@ HexFileOpening OpenHexFile(Session& session, const HexFileChannels& channels) {
   if (!OfferToSave(session)) return HexFileOpening::kNotRead;
   bool reading = false;
   try {
-    CommonDialog dialog = HexDialog(session, kOpenTitle);
-    dialog.ShowOpen();
-    session.HexPath = dialog.FileName;
-    session.HexTitle = dialog.FileTitle;
-    session.SetTip("Reading Hex file . . .");
-    reading = true;
-    ReadRecords(session, channels.read);
-    reading = false;
-    if (RecordsAreGood(session.HexList)) return HexFileOpening::kGood;
+    const bool good = Trapped([&] {
+      CommonDialog dialog = HexDialog(session, kOpenTitle);
+      dialog.ShowOpen();
+      session.HexPath = dialog.FileName;
+      session.HexTitle = dialog.FileTitle;
+      session.SetTip("Reading Hex file . . .");
+      reading = true;
+      ReadRecords(session, channels.read);
+      reading = false;
+      return RecordsAreGood(session.HexList);
+    });
+    if (good) return HexFileOpening::kGood;
   } catch (const Failure& failure) {
     if (failure.number() == ErrorNumber::kDialogCancelled) return HexFileOpening::kNotRead;
     session.ShowCritical("Unable to open " + session.HexTitle + ".");

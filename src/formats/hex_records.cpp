@@ -39,10 +39,12 @@ bool IsGood(std::string_view record) {
 
 std::string RecordHead(std::int64_t address) {
   std::string head = HexText(address) + kDataType;
-  if (address < kFirstFourDigitAddress) {
-    while (head.size() != kPaddedHead) head.insert(0, 1, '0');
-  }
+  if (head.size() < kPaddedHead) head.insert(0, kPaddedHead - head.size(), '0');
   return head;
+}
+
+bool HeadNeverEnds(std::int64_t address) {
+  return address < kFirstFourDigitAddress && RecordHead(address).size() > kPaddedHead;
 }
 
 std::string Checksum(std::string_view record) {
@@ -61,6 +63,7 @@ bool RecordsAreGood(const TextList& records) {
 }
 
 void RecordWriter::BeginBlock(std::int64_t address) {
+  if (HeadNeverEnds(address)) never_ends_();
   address_ = address;
   line_ = RecordHead(address);
   count_ = 0;

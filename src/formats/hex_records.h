@@ -4,8 +4,10 @@
 #define QUILLA_FORMATS_HEX_RECORDS_H_
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/text_list.h"
 
@@ -19,8 +21,10 @@ inline constexpr int kRecordBytes = 16;
 
 /// The address and type of a data record. From 1000h up these are the six digits that Intel HEX
 /// asks for. Below, zeros are put in front until address and type together have four digits: up
-/// to FFh that ends with four, and from 100h to FFFh it never ends.
+/// to FFh that ends with four. From 100h to FFFh it never ends, and the head is not to be asked
+/// for.
 std::string RecordHead(std::int64_t address);
+bool HeadNeverEnds(std::int64_t address);
 
 /// The checksum of a record that lacks it: 256 less the low byte of the sum of its bytes, at
 /// least two digits. A low byte of 0 gives the three digits "100". Fails with `kNotANumber` where
@@ -38,7 +42,9 @@ bool RecordsAreGood(const TextList& records);
 /// full.
 class RecordWriter {
  public:
-  explicit RecordWriter(TextList& records) : records_(records) {}
+  /// `never_ends` is told, and does not come back, where a record has an address without a head.
+  RecordWriter(TextList& records, std::function<void()> never_ends)
+      : records_(records), never_ends_(std::move(never_ends)) {}
 
   void BeginBlock(std::int64_t address);
   /// Adds a byte, as its two digits.
@@ -48,6 +54,7 @@ class RecordWriter {
 
  private:
   TextList& records_;
+  std::function<void()> never_ends_;
   std::int64_t address_ = 0;
   std::string line_;
   int count_ = 0;

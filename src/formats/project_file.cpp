@@ -1,9 +1,9 @@
 #include "formats/project_file.h"
 
 #include <cstddef>
-#include <limits>
 #include <string>
 
+#include "formats/project_text.h"
 #include "platform/characters.h"
 #include "platform/failure.h"
 #include "program/offer_to_save.h"
@@ -12,12 +12,6 @@ namespace quilla {
 namespace {
 
 constexpr int kChannel = 3;
-constexpr const char* kWarning =
-    "Warning: If the contents of this file are altered, the editor assembler might not read the "
-    "file properly.";
-constexpr const char* kFormatTag = "8085";
-constexpr const char* kEndOfTable = "EOT";
-constexpr const char* kEndOfFile = "EOF";
 constexpr const char* kProjectFilter = "Brelvanor Assembler Files (*.baf)|*.baf";
 constexpr const char* kExtension = ".baf";
 constexpr std::size_t kExtensionLength = 4;
@@ -36,8 +30,13 @@ std::string WithExtension(const std::string& path) {
 }  // namespace
 
 ProjectFile::ProjectFile(Session& session, StateMachine& states, Rows& rows, Origins& origins,
-                         NewFileCommand& new_file)
-    : session_(session), states_(states), rows_(rows), origins_(origins), new_file_(new_file) {
+                         NewFileCommand& new_file, RescueFile& rescue)
+    : session_(session),
+      states_(states),
+      rows_(rows),
+      origins_(origins),
+      new_file_(new_file),
+      rescue_(rescue) {
   session_.menu.SaveFile.Click = [this] { SaveFile_Click(); };
   session_.menu.SaveAsFile.Click = [this] { SaveAsFile_Click(); };
   session_.menu.OpenFile.Click = [this] { OpenFile_Click(); };
@@ -49,9 +48,11 @@ void ProjectFile::SaveFile_Click() {
     return;
   }
   try {
-    session_.SetTip("Saving file . . .");
-    WriteProject();
-    SaveDone();
+    Trapped([this] {
+      session_.SetTip("Saving file . . .");
+      WriteProject();
+      SaveDone(Source());
+    });
   } catch (const Failure&) {
     SaveFailed();
   }
@@ -59,19 +60,14 @@ void ProjectFile::SaveFile_Click() {
 
 void ProjectFile::SaveAsFile_Click() {
   try {
-    FileDialog_.Flags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
-    FileDialog_.Filter = kProjectFilter;
-    FileDialog_.DialogTitle = "Save As";
-    FileDialog_.Name = NameWithExtension(session_.FileName, kExtension);
-    FileDialog_.Target = WithExtension;
-    FileDialog_.ShowSave();
-    session_.ProjectPath = FileDialog_.FileName;
-    session_.FileName = FileDialog_.FileTitle;
-    session_.ProjectPath = WithExtension(session_.ProjectPath);
-    session_.SetTip("Saving file . . .");
-    session_.ProgrammingPanel.set_pointer(FormPointer::kBusy);
-    WriteProject();
-    SaveDone();
+    Trapped([this] {
+      const std::string source = Source();
+      AskForName();
+      session_.SetTip("Saving file . . .");
+      session_.ProgrammingPanel.set_pointer(FormPointer::kBusy);
+      WriteProject();
+      SaveDone(source);
+    });
   } catch (const Failure& failure) {
     if (failure.number() == ErrorNumber::kDialogCancelled) {
       states_.ReturnToReady();
@@ -82,7 +78,26 @@ void ProjectFile::SaveAsFile_Click() {
   session_.ProgrammingPanel.set_pointer(FormPointer::kNormal);
 }
 
-void ProjectFile::SaveDone() {
+void ProjectFile::AskForName() {
+  FileDialog_.Flags = kOverwritePrompt | kHideReadOnly | kPathMustExist | kFileMustExist;
+  FileDialog_.Filter = kProjectFilter;
+  FileDialog_.DialogTitle = "Save As";
+  FileDialog_.Name = NameWithExtension(RescuedName(session_.FileName), kExtension);
+  FileDialog_.Target = WithExtension;
+  FileDialog_.ShowSave();
+  session_.ProjectPath = FileDialog_.FileName;
+  session_.FileName = FileDialog_.FileTitle;
+  session_.ProjectPath = WithExtension(session_.ProjectPath);
+}
+
+std::string ProjectFile::Source() const {
+  const bool is_of_file =
+      session_.FileOrigin == FileOrigin::kOpened || session_.FileOrigin == FileOrigin::kSaved;
+  return is_of_file && session_.ProjectPath == opened_ ? opened_ : std::string();
+}
+
+void ProjectFile::SaveDone(const std::string& source) {
+  rescue_.ProjectSaved(source);
   session_.ProgrammingPanel.set_caption(kTitle + session_.FileName);
   states_.ReturnToReady();
   session_.SetTip("File Saved.");
@@ -97,35 +112,14 @@ void ProjectFile::SaveFailed() {
 }
 
 void ProjectFile::WriteProject() {
-  FileChannels& file = session_.channels;
+  const std::string text = ProjectText(session_);
+  session_.channels.OpenOutput(kChannel, session_.ProjectPath);
   Grid& table = session_.Table1;
-  file.OpenOutput(kChannel, session_.ProjectPath);
-  file.WriteLine(kChannel, {FileItem::Text(kWarning)});
-  file.WriteLine(kChannel, {FileItem::Text(kFormatTag)});
-  file.WriteLine(kChannel, {FileItem::Number(table.Rows())});
   for (int row = 0; row < table.Rows(); ++row) {
     if (!session_.IsOrigin(row)) table.SetTextMatrix(row, kAddressColumn, {});
-    for (int column = 0; column < kProgramColumns; ++column) {
-      file.WriteLine(kChannel, {FileItem::Text(table.TextMatrix(row, column))});
-    }
-    file.WriteLine(kChannel, {FileItem::Text(session_.OperandOf(row))});
   }
-  file.WriteLine(kChannel, {FileItem::Text(kEndOfTable)});
-  WriteStrings(session_.LabelCombo, session_.LabelEqtList);
-  WriteStrings(session_.XXCombo, session_.XXEqtList);
-  file.WriteLine(kChannel, {FileItem::Text(kEndOfFile)});
-  file.Close(kChannel);
-}
-
-void ProjectFile::WriteStrings(const TextList& names, const TextList& equivalents) {
-  if (names.Count() > std::numeric_limits<std::int16_t>::max()) {
-    throw Failure(ErrorNumber::kOverflow);
-  }
-  FileChannels& file = session_.channels;
-  file.WriteLine(kChannel, {FileItem::Number(names.Count())});
-  for (int i = 0; i < names.Count(); ++i) {
-    file.WriteLine(kChannel, {FileItem::Text(names[i]), FileItem::Text(equivalents[i])});
-  }
+  session_.channels.Write(kChannel, text);
+  session_.channels.Close(kChannel);
 }
 
 void ProjectFile::OpenFile_Click() {
@@ -150,17 +144,21 @@ void ProjectFile::OpenFile_Click() {
 }
 
 void ProjectFile::Open_File() {
+  opened_.clear();
   new_file_.New_File();
   session_.SetTip("Opening file . . .");
   try {
-    ReadProject();
-    session_.channels.Close(kChannel);
-    origins_.UpdateOrigins();
-    session_.ProgrammingPanel.set_caption(kTitle + session_.FileName);
-    session_.SetWriteMode(false);
-    rows_.NextLine(1);
-    states_.ControlTransfer(PanelState::kReady);
-    session_.SetTip("File Opened.");
+    Trapped([this] {
+      ReadProject();
+      session_.channels.Close(kChannel);
+      origins_.UpdateOrigins();
+      session_.ProgrammingPanel.set_caption(kTitle + session_.FileName);
+      session_.SetWriteMode(false);
+      rows_.NextLine(1);
+      states_.ControlTransfer(PanelState::kReady);
+      session_.SetTip("File Opened.");
+      opened_ = session_.ProjectPath;
+    });
   } catch (const Failure&) {
     session_.ProgrammingPanel.set_pointer(FormPointer::kNormal);
     session_.ShowCritical("Unable to open file.");

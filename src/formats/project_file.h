@@ -1,9 +1,11 @@
-// The project file: the whole table, the strings of its rows, the labels and the variables, as
-// sequential text items. The commands that save and open it.
+// The project file: the commands that save and open it.
 #ifndef QUILLA_FORMATS_PROJECT_FILE_H_
 #define QUILLA_FORMATS_PROJECT_FILE_H_
 
+#include <string>
+
 #include "entry/new_file.h"
+#include "formats/rescue_file.h"
 #include "platform/dialogs.h"
 #include "program/rows.h"
 #include "program/session.h"
@@ -15,7 +17,7 @@ namespace quilla {
 class ProjectFile {
  public:
   ProjectFile(Session& session, StateMachine& states, Rows& rows, Origins& origins,
-              NewFileCommand& new_file);
+              NewFileCommand& new_file, RescueFile& rescue);
 
   /// Saves under the name of the session, or asks for one if it has none. Failures are told to
   /// the user; `FileChanged` tells whether the save came about.
@@ -28,12 +30,16 @@ class ProjectFile {
   void Open_File();
 
  private:
+  /// Asks for the name of the file. Fails with `kDialogCancelled`, or with `kOutsideList` where the
+  /// name is too short.
+  void AskForName();
   void WriteProject();
-  void WriteStrings(const TextList& names, const TextList& equivalents);
   void ReadProject();
   void ReadStrings(TextList& names, TextList& equivalents);
-  /// What both saves do once the file is written.
-  void SaveDone();
+  /// The file that the work in the table comes from; empty if it comes from none.
+  std::string Source() const;
+  /// What both saves do once the file is written; the work came from the file `source`.
+  void SaveDone(const std::string& source);
   void SaveFailed();
 
   Session& session_;
@@ -41,6 +47,8 @@ class ProjectFile {
   Rows& rows_;
   Origins& origins_;
   NewFileCommand& new_file_;
+  RescueFile& rescue_;
+  std::string opened_;  // the file that was opened last, if it could be read
   CommonDialog FileDialog_{session_.outside.file_dialogs};
 };
 

@@ -18,6 +18,7 @@
 #include "entry/table_clicks.h"
 #include "entry/write_mode.h"
 #include "formats/project_file.h"
+#include "formats/rescue_file.h"
 #include "link/download.h"
 #include "link/port_menu.h"
 #include "link/upload.h"
@@ -51,6 +52,7 @@ class ProgrammingPanel {
   explicit ProgrammingPanel(Outside& outside);
 
   Session& session() { return session_; }
+  RescueFile& rescue() { return rescue_; }
   Form& form() { return session_.ProgrammingPanel; }
   /// The dialogs that belong to the panel, open or not.
   std::vector<Form*> Dialogs() {
@@ -62,6 +64,7 @@ class ProgrammingPanel {
 
   Session session_;
   Rows rows_{session_};
+  RescueFile rescue_{session_};
   StateMachine states_{session_};
   EntryLine line_{session_, rows_};
   RegisterEntry registers_{session_, states_, line_};
@@ -88,14 +91,14 @@ class ProgrammingPanel {
       [this](const std::string& text) { session_.ShowInformation(text); }};
   SimulationStart simulation_{session_, watch_window_,
                               [this](bool report) { addresses_.Assign_Address(report); }};
-  Assembler assembler_{session_, states_, addresses_, strings_};
+  Assembler assembler_{session_, states_, addresses_, strings_, rescue_};
   PrintState printing_;
   PrintInfo print_info_{session_, printing_};
   PrintComment print_comment_{session_, states_, printing_};
   PrintRun print_run_{session_, printing_, addresses_};
   DataDialog data_dialog_{session_, rows_, origins_, addresses_};
   NewFileCommand new_file_{session_, states_, rows_, numbers_};
-  ProjectFile project_{session_, states_, rows_, origins_, new_file_};
+  ProjectFile project_{session_, states_, rows_, origins_, new_file_, rescue_};
   PortMenu ports_{session_};
   Download download_{session_, states_, ports_};
   Upload upload_{session_, states_, ports_};

@@ -5,6 +5,7 @@
 #define QUILLA_PLATFORM_DISPATCH_H_
 
 #include <functional>
+#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -13,13 +14,14 @@
 namespace quilla {
 
 /// Carries out an action of the user or the clock. A `Failure` that no handler on the way catches
-/// ends the action where it stands: what was written stays, and the program goes on. Any other
-/// exception is a fault in the program and passes.
+/// ends the action where it stands, and so does a lack of memory: what was written stays, and the
+/// program goes on. Any other exception is a fault in the program and passes.
 template <typename Action>
 void CarryOut(Action&& action) {
   try {
     std::forward<Action>(action)();
   } catch (const Failure&) {
+  } catch (const std::bad_alloc&) {
   }
 }
 

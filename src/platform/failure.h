@@ -4,11 +4,14 @@
 #define QUILLA_PLATFORM_FAILURE_H_
 
 #include <exception>
+#include <new>
+#include <utility>
 
 namespace quilla {
 
 enum class ErrorNumber : int {
   kOverflow = 6,             // a number that does not fit its width
+  kOutOfMemory = 7,          // a lack of memory
   kOutsideList = 9,          // a position outside a list, or a character outside a text
   kNotANumber = 13,          // a text that does not convert
   kBadChannel = 52,          // a file channel that is not open, or not open for this use
@@ -34,6 +37,17 @@ class Failure : public std::exception {
  private:
   ErrorNumber number_;
 };
+
+/// Carries out an action of a command with an error trap. A lack of memory is a failure there like
+/// any other.
+template <typename Action>
+auto Trapped(Action&& action) {
+  try {
+    return std::forward<Action>(action)();
+  } catch (const std::bad_alloc&) {
+    throw Failure(ErrorNumber::kOutOfMemory);
+  }
+}
 
 }  // namespace quilla
 

@@ -1,6 +1,5 @@
 #include "platform/file_channels.h"
 
-#include <filesystem>
 #include <limits>
 #include <new>
 #include <utility>
@@ -42,50 +41,36 @@ void FileItem::AppendTo(std::string& line) const {
   }
 }
 
-bool FileChannels::File::Open(const std::string& path, std::ios::openmode mode) {
-  const std::filesystem::path file(std::u8string(path.begin(), path.end()));
-  return buffer_.open(file, mode | std::ios::binary) != nullptr;
-}
-
-bool FileChannels::File::Close() {
-  const bool written = WriteBlock();
-  return buffer_.close() != nullptr && written;
-}
-
-bool FileChannels::File::Flush() { return WriteBlock() && buffer_.pubsync() == 0; }
-
-bool FileChannels::File::WriteLine(std::initializer_list<FileItem> items) {
-  const std::size_t line_start = written_.size();
+void AppendLine(std::string& text, std::initializer_list<FileItem> items) {
+  const std::size_t line_start = text.size();
   for (const FileItem& item : items) {
-    if (written_.size() > line_start) written_ += kComma;
-    item.AppendTo(written_);
+    if (text.size() > line_start) text += kComma;
+    item.AppendTo(text);
   }
-  written_ += kLineEnd;
-  return written_.size() < kBlockSize || WriteBlock();
+  text += kLineEnd;
 }
 
-bool FileChannels::File::WriteBlock() {
-  const auto size = static_cast<std::streamsize>(written_.size());
-  const bool written = buffer_.sputn(written_.data(), size) == size;
-  written_.clear();
-  return written;
+bool FileChannels::File::Flush() {
+  if (!flushed) flushed = stored->Flush();
+  return flushed;
 }
 
 void FileChannels::File::ReadBlock() {
-  read_.resize(kBlockSize);
-  const std::streamsize size = buffer_.sgetn(read_.data(), kBlockSize);
-  read_.resize(static_cast<std::size_t>(size));
-  taken_ = 0;
+  read.resize(kBlockSize);
+  const std::optional<std::size_t> size = stored->Read(read.data(), kBlockSize);
+  if (!size) throw Failure(ErrorNumber::kReadFailed);
+  read.resize(*size);
+  taken = 0;
 }
 
 bool FileChannels::File::AtEnd() {
-  if (taken_ == read_.size()) ReadBlock();
-  return taken_ == read_.size();
+  if (taken == read.size()) ReadBlock();
+  return taken == read.size();
 }
 
 bool FileChannels::File::TakeIf(char c) {
-  if (AtEnd() || read_[taken_] != c) return false;
-  ++taken_;
+  if (AtEnd() || read[taken] != c) return false;
+  ++taken;
   return true;
 }
 
@@ -93,15 +78,15 @@ template <typename Find>
 std::string FileChannels::File::TakeUntil(const Find& find) {
   std::string text;
   while (!AtEnd()) {
-    std::string_view ahead = read_;
-    ahead.remove_prefix(taken_);
+    std::string_view ahead = read;
+    ahead.remove_prefix(taken);
     const std::size_t end = find(ahead);
     text += ahead.substr(0, end);
     if (end != std::string_view::npos) {
-      taken_ += end;
+      taken += end;
       break;
     }
-    taken_ = read_.size();
+    taken = read.size();
   }
   return text;
 }
@@ -118,18 +103,21 @@ std::string FileChannels::File::TakeItem() {
 }
 
 void FileChannels::OpenOutput(int channel, const std::string& path) {
-  Open(channel, path, std::ios::out | std::ios::trunc);
+  Open(channel, path, Use::kOutput);
 }
 
 void FileChannels::OpenInput(int channel, const std::string& path) {
-  Open(channel, path, std::ios::in);
+  Open(channel, path, Use::kInput);
 }
 
-void FileChannels::Open(int channel, const std::string& path, std::ios::openmode mode) {
+void FileChannels::Open(int channel, const std::string& path, Use use) {
   if (IsOpen(channel)) throw Failure(ErrorNumber::kChannelOpen);
-  File file;
-  if (!file.Open(path, mode)) throw Failure(ErrorNumber::kFileNotFound);
-  files_.emplace(channel, std::move(file));
+  Storage::File stored = use == Use::kInput ? storage_.OpenInput(path) : copies_.Replace(path);
+  if (stored == nullptr) {
+    if (use == Use::kInput) copies_.NoteReading(path, false);
+    throw Failure(ErrorNumber::kFileNotFound);
+  }
+  files_.emplace(channel, File{.stored = std::move(stored), .path = path, .use = use});
 }
 
 void FileChannels::Close(int channel) {
@@ -137,36 +125,42 @@ void FileChannels::Close(int channel) {
   if (found == files_.end()) return;
   File file = std::move(found->second);
   files_.erase(found);
-  if (!file.Close()) throw Failure(ErrorNumber::kWriteFailed);
+  if (file.use == Use::kInput) {
+    copies_.NoteReading(file.path, true);
+    return;
+  }
+  const bool flushed = file.Flush();
+  if (!file.stored->Close() || !flushed) throw Failure(ErrorNumber::kWriteFailed);
+  copies_.Release(file.path);
 }
 
 void FileChannels::Abandon(int channel) {
   const auto found = files_.find(channel);
   if (found == files_.end()) return;
-  found->second.Close();
+  if (found->second.use == Use::kInput) copies_.NoteReading(found->second.path, false);
   files_.erase(found);
 }
 
-FileChannels::File& FileChannels::FileOn(int channel) {
+FileChannels::File& FileChannels::FileOn(int channel, Use use) {
   const auto found = files_.find(channel);
-  if (found == files_.end()) throw Failure(ErrorNumber::kBadChannel);
+  if (found == files_.end() || found->second.use != use) throw Failure(ErrorNumber::kBadChannel);
   return found->second;
 }
 
-void FileChannels::WriteLine(int channel, std::initializer_list<FileItem> items) {
-  if (!FileOn(channel).WriteLine(items)) throw Failure(ErrorNumber::kWriteFailed);
+void FileChannels::Write(int channel, std::string_view text) {
+  File& file = FileOn(channel, Use::kOutput);
+  file.flushed = false;
+  if (!file.stored->Write(text)) throw Failure(ErrorNumber::kWriteFailed);
 }
 
 void FileChannels::Flush(int channel) {
-  if (!FileOn(channel).Flush()) throw Failure(ErrorNumber::kWriteFailed);
+  if (!FileOn(channel, Use::kOutput).Flush()) throw Failure(ErrorNumber::kWriteFailed);
 }
 
 std::string FileChannels::ReadText(int channel) {
-  File& file = FileOn(channel);
+  File& file = FileOn(channel, Use::kInput);
   try {
     return file.TakeItem();
-  } catch (const std::ios_base::failure&) {  // a folder, or a disk that does not read
-    throw Failure(ErrorNumber::kReadFailed);
   } catch (const std::bad_alloc&) {  // a text that the memory does not hold
     throw Failure(ErrorNumber::kReadFailed);
   }

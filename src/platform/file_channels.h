@@ -5,12 +5,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
 #include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
 #include <variant>
+
+#include "platform/kept_copies.h"
+#include "platform/storage.h"
 
 namespace quilla {
 
@@ -27,11 +29,17 @@ class FileItem {
   std::variant<std::string_view, std::int64_t> value_;
 };
 
+/// Adds items as one line of a file: commas between them, CR LF behind.
+void AppendLine(std::string& text, std::initializer_list<FileItem> items);
+
 class FileChannels {
  public:
-  /// Opens a file, its path in UTF-8, for writing from the start or for reading. Fails with
-  /// `kChannelOpen` on a channel that is open and with `kFileNotFound` where the file cannot be
-  /// opened; the channel is closed then.
+  explicit FileChannels(Storage& storage) : storage_(storage), copies_(storage) {}
+
+  /// Opens a file, its path in UTF-8, for writing from the start or for reading. What a file held
+  /// that is written anew is kept in a copy until it is written whole. Fails with `kChannelOpen` on
+  /// a channel that is open and with `kFileNotFound` where the file cannot be opened, or not be
+  /// kept; the channel is closed then and the file as it was.
   void OpenOutput(int channel, const std::string& path);
   void OpenInput(int channel, const std::string& path);
   /// Closes the channel; nothing on a closed one. Fails with `kWriteFailed` when the disk did not
@@ -39,13 +47,12 @@ class FileChannels {
   void Close(int channel);
   /// Closes the channel whatever has become of the file; for clean-ups after a failure.
   void Abandon(int channel);
-  /// Brings what has been written so far to the disk. Fails as WriteLine; the channel stays open.
+  /// Brings what has been written so far to the disk. Fails as Write; the channel stays open.
   void Flush(int channel);
   bool IsOpen(int channel) const { return files_.contains(channel); }
 
-  /// Writes items on one line, with commas between them and CR LF behind.
-  /// Fails with `kBadChannel` or `kWriteFailed`.
-  void WriteLine(int channel, std::initializer_list<FileItem> items);
+  /// Writes a text as it stands. Fails with `kBadChannel` or `kWriteFailed`.
+  void Write(int channel, std::string_view text);
 
   /// Reads the next item as it stands, without its quotes. A line ends at CR LF, CR or LF; a
   /// quote that is never closed takes the rest of the file. Fails with `kPastEndOfFile`,
@@ -57,22 +64,20 @@ class FileChannels {
   std::int32_t ReadNumber32(int channel);
 
  private:
-  /// A file that is read and written in great blocks.
-  class File {
-   public:
-    /// False where the file cannot be opened.
-    bool Open(const std::string& path, std::ios::openmode mode);
-    /// Adds a line of items. False when the disk does not take what is written.
-    bool WriteLine(std::initializer_list<FileItem> items);
-    /// Writes what has been added since the last block. False as WriteLine.
+  enum class Use { kInput, kOutput };
+
+  /// A file that is open. It is read in great blocks.
+  struct File {
+    Storage::File stored;
+    std::string path;
+    Use use;
+    bool flushed = false;   // all that was written is on the disk
+    std::string read = {};  // the block that was read last
+    std::size_t taken = 0;  // how much of it has been taken
+
     bool Flush();
     /// Takes the next item with its quotes and its delimiter, and gives what it holds.
     std::string TakeItem();
-    /// Writes what has been added since the last block, and closes. False as WriteLine.
-    bool Close();
-
-   private:
-    bool WriteBlock();
     void ReadBlock();
     bool AtEnd();
     /// Takes the next character if it is this one.
@@ -80,16 +85,14 @@ class FileChannels {
     /// Takes the characters before the one that `find` finds, or all up to the end of the file.
     template <typename Find>
     std::string TakeUntil(const Find& find);
-
-    std::filebuf buffer_;
-    std::string written_;    // the block that is not on the disk yet
-    std::string read_;       // the block that was read last
-    std::size_t taken_ = 0;  // how much of it has been taken
   };
 
-  File& FileOn(int channel);
-  void Open(int channel, const std::string& path, std::ios::openmode mode);
+  /// The file on a channel that is open for this use. Fails with `kBadChannel`.
+  File& FileOn(int channel, Use use);
+  void Open(int channel, const std::string& path, Use use);
 
+  Storage& storage_;
+  KeptCopies copies_;
   std::map<int, File> files_;
 };
 

@@ -7,6 +7,7 @@
 #include "platform/dialogs.h"
 #include "platform/form.h"
 #include "platform/serial_port.h"
+#include "platform/storage.h"
 #include "platform/timer.h"
 
 namespace quilla {
@@ -29,6 +30,8 @@ class EventLoop {
   virtual void Yield(const Control& waiter) = 0;
   /// Ends the program: nothing further happens once the running handler returns.
   virtual void End() = 0;
+  /// Waits, handling nothing, until the program is ended from outside. It does not come back.
+  virtual void NeverReturn() = 0;
 
  protected:
   virtual void OpenWindow(Form& form) = 0;
@@ -59,6 +62,7 @@ struct Outside {
   Clock& clock;
   PagePrinter& printer;
   EventLoop& event_loop;
+  Storage& storage;
 };
 
 }  // namespace quilla

@@ -101,7 +101,7 @@ struct Session {
   std::string MessageResult;
   std::string HexPath;
   std::string HexTitle;
-  FileChannels channels;
+  FileChannels channels{outside.storage};
 
   bool AddressError = false;
   MSComm MSComm1;

@@ -10,6 +10,8 @@ constexpr int kSplashMilliseconds = 20;
 
 /// The program has ended. It is no std::exception: it passes every handler that waits.
 struct ProgramEnded {};
+/// The play has been ended from outside. It is no std::exception either.
+struct EndedFromOutside {};
 
 }  // namespace
 
@@ -35,6 +37,8 @@ int Robot::Play() {
   } catch (const ScriptOver&) {
   } catch (const ProgramEnded&) {
     transcript_ << "ended\n";
+  } catch (const EndedFromOutside&) {
+    if (quilla_.panel() != nullptr) quilla_.panel()->rescue().Write();
   } catch (const NotACommand& fault) {
     errors_ << "line " << line_number_ << ": " << fault.reason() << '\n';
     return kNoCommand;
@@ -42,10 +46,17 @@ int Robot::Play() {
   return kPlayed;
 }
 
+void Robot::EndIfAsked() const {
+  if (must_end && must_end()) throw EndedFromOutside{};
+}
+
 bool Robot::PlayNextCommand() {
+  EndIfAsked();
   while (line_.empty()) {
     std::string line;
-    if (!std::getline(script_, line)) return false;
+    const bool is_there = static_cast<bool>(std::getline(script_, line));
+    EndIfAsked();
+    if (!is_there) return false;
     ++line_number_;
     if (line.ends_with('\r')) line.pop_back();
     if (line.empty() || line.front() == '#') continue;
@@ -59,8 +70,11 @@ bool Robot::PlayNextCommand() {
   return true;
 }
 
-int RunScript(std::istream& script, std::ostream& transcript, std::ostream& errors) {
-  return Robot(script, transcript, errors).Play();
+int RunScript(std::istream& script, std::ostream& transcript, std::ostream& errors,
+              std::function<bool()> must_end) {
+  Robot robot(script, transcript, errors);
+  robot.must_end = std::move(must_end);
+  return robot.Play();
 }
 
 }  // namespace quilla::robot

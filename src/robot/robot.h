@@ -4,6 +4,7 @@
 #define QUILLA_ROBOT_ROBOT_H_
 
 #include <deque>
+#include <functional>
 #include <istream>
 #include <memory>
 #include <ostream>
@@ -26,6 +27,10 @@ class Robot {
   Robot(std::istream& script, std::ostream& transcript, std::ostream& errors,
         const HandsFactory& make_hands = MakeModelHands);
 
+  /// Asked before each command, and where the script ends: true ends the play from outside. Unsaved
+  /// work is then written to a rescue file.
+  std::function<bool()> must_end;
+
   /// Starts the program and plays the script to its end, or to the end of the program. Gives
   /// kPlayed, or kNoCommand with a line in `errors` at the first line that is no command.
   /// Plays once.
@@ -35,6 +40,7 @@ class Robot {
   ScriptedEventLoop& event_loop() { return outside_.event_loop; }
 
  private:
+  void EndIfAsked() const;
   /// Plays the next command, of the line at hand or of the next one that is neither empty nor a
   /// comment; false at the end of the script.
   bool PlayNextCommand();
@@ -51,8 +57,9 @@ class Robot {
   Commands commands_;
 };
 
-/// Plays a script on the models. Gives the exit code of the play.
-int RunScript(std::istream& script, std::ostream& transcript, std::ostream& errors);
+/// Plays a script on the models, until `must_end`, if it is there. Gives the exit code of the play.
+int RunScript(std::istream& script, std::ostream& transcript, std::ostream& errors,
+              std::function<bool()> must_end = {});
 
 }  // namespace quilla::robot
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/outside.h"
+#include "system/end_requests.h"
 
 namespace quilla::robot {
 
@@ -36,6 +37,7 @@ class ScriptedEventLoop : public EventLoop {
   /// ScriptOver, here and below.
   void Yield(const Control& waiter) override;
   void End() override { ended_ = true; }
+  void NeverReturn() override { WaitForTheEnd(); }
 
  protected:
   void OpenWindow(Form& form) override;

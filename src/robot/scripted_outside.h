@@ -14,6 +14,7 @@
 #include "robot/scripted_port.h"
 #include "robot/surroundings.h"
 #include "robot/virtual_clock.h"
+#include "system/disk_storage.h"
 
 namespace quilla::robot {
 
@@ -41,8 +42,9 @@ struct ScriptedOutside : Surroundings {
   VirtualClock clock;
   PageTranscript printer;
   ScriptedEventLoop event_loop;
+  DiskStorage storage;
   /// The same, as the program knows it.
-  Outside ports{boxes, file_dialogs, port, clock, printer, event_loop};
+  Outside ports{boxes, file_dialogs, port, clock, printer, event_loop, storage};
 };
 
 }  // namespace quilla::robot

@@ -18,6 +18,7 @@
 #include <system_error>
 
 #include "platform/number_text.h"
+#include "system/end_requests.h"
 #include "trainer/board.h"
 
 namespace quilla::trainer {
@@ -161,6 +162,7 @@ std::string Hear(Board& board, std::string_view arrived, const Options& options)
 
 int main(int argc, char** argv) {
   try {
+    quilla::LetLongFilesFail();
     quilla::trainer::Options options = quilla::trainer::ReadOptions(argc, argv);
     quilla::trainer::Serve(options);
   } catch (const std::system_error& failure) {

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/outside.h"
+#include "system/end_requests.h"
 #include "window/gate.h"
 
 namespace quilla {
@@ -36,6 +37,7 @@ class QtEventLoop : public EventLoop {
   /// Waits a moment for events and handles them.
   void Turn();
   void End() override;
+  void NeverReturn() override { WaitForTheEnd(); }
 
  protected:
   void OpenWindow(Form& form) override;

@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include "platform/outside.h"
+#include "system/disk_storage.h"
 #include "window/gate.h"
 #include "window/port_switch.h"
 #include "window/program_icon.h"
@@ -37,7 +38,8 @@ class QtOutside {
   QtPrinter printer_;
   QtEventLoop event_loop_{gate_,
                           [this](Form& form) { return MakeWindow(gate_, event_loop_, form); }};
-  Outside ports_{boxes_, file_dialogs_, serial_port_, clock_, printer_, event_loop_};
+  DiskStorage storage_;
+  Outside ports_{boxes_, file_dialogs_, serial_port_, clock_, printer_, event_loop_, storage_};
 };
 
 }  // namespace quilla

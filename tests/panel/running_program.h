@@ -17,7 +17,16 @@ namespace quilla {
 
 class RunningProgram {
  public:
-  RunningProgram() {
+  RunningProgram() : RunningProgram(nullptr) {}
+  /// `storage` takes the place of the disk, unless it is null.
+  explicit RunningProgram(Storage* storage)
+      : ports_{outside_.boxes,
+               outside_.file_dialogs,
+               outside_.port,
+               outside_.clock,
+               outside_.printer,
+               outside_.event_loop,
+               storage == nullptr ? outside_.storage : *storage} {
     quilla_.Start();
     Wait();
     TakeBoxes();
@@ -78,7 +87,8 @@ class RunningProgram {
  private:
   std::ostringstream transcript_;
   robot::ScriptedOutside outside_{transcript_};
-  Quilla quilla_{outside_.ports};
+  Outside ports_;
+  Quilla quilla_{ports_};
 };
 
 inline std::string BytesOf(const std::string& path) {

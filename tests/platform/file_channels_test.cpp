@@ -2,13 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include "panel/running_program.h"
 #include "platform/failure_of.h"
 #include "scenario.h"
+#include "system/disk_storage.h"
 
 namespace quilla {
 namespace {
@@ -33,7 +36,8 @@ class FileChannelsTest : public testing::Test {
   }
 
   robot::ScratchFolder folder_{"no files"};
-  FileChannels channels_;
+  DiskStorage disk_;
+  FileChannels channels_{disk_};
 };
 
 TEST_F(FileChannelsTest, ItemsEndWhereTheirFormSays) {
@@ -87,28 +91,51 @@ TEST_F(FileChannelsTest, NumbersFitTheirWidth) {
 }
 
 TEST_F(FileChannelsTest, FilesThatCannotBeOpenedLeaveTheChannelClosed) {
-  std::filesystem::create_directory("folder");
   for (const std::string path : {"", "missing", "missing/file", "file\xFF/x"}) {
     EXPECT_EQ(FailureOf([&] { channels_.OpenInput(kChannel, path); }), ErrorNumber::kFileNotFound);
     EXPECT_FALSE(channels_.IsOpen(kChannel)) << path;
   }
-  for (const std::string path : {"", "missing/file", "folder"}) {
+  for (const std::string path : {"", "missing/file"}) {
     EXPECT_EQ(FailureOf([&] { channels_.OpenOutput(kChannel, path); }), ErrorNumber::kFileNotFound);
     EXPECT_FALSE(channels_.IsOpen(kChannel)) << path;
   }
-  // A folder may open where the system lets it; it holds no items.
-  EXPECT_TRUE(FailureOf([&] {
-    channels_.OpenInput(kChannel, "folder");
-    channels_.ReadText(kChannel);
-  }));
 }
 
-TEST_F(FileChannelsTest, DiskThatTakesNothingFailsTheClose) {
-  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device that is always full";
-  channels_.OpenOutput(kChannel, "/dev/full");
-  channels_.WriteLine(kChannel, {FileItem::Text("short")});
-  EXPECT_EQ(FailureOf([&] { channels_.Close(kChannel); }), ErrorNumber::kWriteFailed);
-  EXPECT_FALSE(channels_.IsOpen(kChannel));
+TEST_F(FileChannelsTest, WhatIsNoRegularFileIsNeitherOpenedNorWaitedFor) {
+  if (std::system("mkfifo pipe") != 0) GTEST_SKIP() << "no named pipes";
+  std::filesystem::create_directory("folder");
+  std::filesystem::create_symlink("/dev/full", "device");
+  for (const std::string path : {"pipe", "device", "folder"}) {
+    EXPECT_EQ(FailureOf([&] { channels_.OpenInput(kChannel, path); }), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(FailureOf([&] { channels_.OpenOutput(kChannel, path); }), ErrorNumber::kFileNotFound);
+    EXPECT_FALSE(std::filesystem::exists(path + '~'));
+  }
+}
+
+TEST_F(FileChannelsTest, ACopyKeepsWhatIsReplacedUntilItIsWritten) {
+  namespace fs = std::filesystem;
+  const auto replace = [this](const std::string& copy) {
+    Write("old");
+    channels_.OpenOutput(kChannel, "link");
+    EXPECT_EQ(BytesOf("file"), "");
+    EXPECT_EQ(BytesOf(copy), "old");
+    EXPECT_EQ(fs::status(copy).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    channels_.Write(kChannel, "new");
+    channels_.Close(kChannel);
+    EXPECT_EQ(BytesOf("hard"), "new");
+    EXPECT_TRUE(fs::is_symlink("link"));
+    return fs::exists(copy);
+  };
+  Write("");
+  fs::permissions("file", fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink("file", "link");
+  fs::create_hard_link("file", "hard");
+  EXPECT_FALSE(replace("file~"));
+  channels_.OpenInput(kChannel, "file");
+  channels_.Abandon(kChannel);
+  EXPECT_TRUE(replace("file~")) << "nobody could read what it holds";
+  EXPECT_FALSE(replace("file~~")) << "the name is taken";
+  EXPECT_TRUE(fs::exists("file~"));
 }
 
 }  // namespace

@@ -76,8 +76,8 @@ class PrintTest : public testing::Test {
   std::ostringstream transcript_;
   robot::ScriptedOutside outside_{transcript_};
   QtPrinter printer_;
-  Outside ports_{outside_.boxes, outside_.file_dialogs, outside_.port, outside_.clock,
-                 printer_,       outside_.event_loop};
+  Outside ports_{outside_.boxes, outside_.file_dialogs, outside_.port,   outside_.clock,
+                 printer_,       outside_.event_loop,   outside_.storage};
   Quilla quilla_{ports_};
 };
 

@@ -186,7 +186,8 @@ class LinkTest : public QtSerialPortTest {
   std::ostringstream transcript_;
   robot::ScriptedOutside outside_{transcript_};
   QtClock clock_{gate_};
-  Outside desktop_{outside_.boxes, outside_.file_dialogs, port_, clock_, outside_.printer, loop_};
+  Outside desktop_{outside_.boxes, outside_.file_dialogs, port_, clock_, outside_.printer,
+                   loop_,          outside_.storage};
   ProgrammingPanel panel_{desktop_};
   QTimer watch_;
 };

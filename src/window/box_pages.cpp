@@ -182,21 +182,17 @@ void FillPrintCommentPage(FormMirror& mirror, BoxPage* page) {
                {"ClearComments", "PrintCommentDoneButton", "PrintCommentCancelButton"});
 }
 
-struct PageLayout {
+struct BoxLayout {
   std::string_view box;
   void (*fill)(FormMirror&, BoxPage*);
 };
 
-constexpr std::array kLayouts = {PageLayout{"RegisterBox", FillRegisterPage},
-                                 PageLayout{"NumberBox", FillNumberPage},
-                                 PageLayout{"DataBox", FillDataPage},
-                                 PageLayout{"LabelBox", FillLabelPage},
-                                 PageLayout{"XXBox", FillVariablePage},
-                                 PageLayout{"PlaceBox", FillPlacePage},
-                                 PageLayout{"FindBox", FillFindPage},
-                                 PageLayout{"ReplaceBox", FillReplacePage},
-                                 PageLayout{"CommentsBox", FillCommentsPage},
-                                 PageLayout{"PrintCommentBox", FillPrintCommentPage}};
+constexpr std::array kLayouts = {
+    BoxLayout{"RegisterBox", FillRegisterPage}, BoxLayout{"NumberBox", FillNumberPage},
+    BoxLayout{"DataBox", FillDataPage},         BoxLayout{"LabelBox", FillLabelPage},
+    BoxLayout{"XXBox", FillVariablePage},       BoxLayout{"PlaceBox", FillPlacePage},
+    BoxLayout{"FindBox", FillFindPage},         BoxLayout{"ReplaceBox", FillReplacePage},
+    BoxLayout{"CommentsBox", FillCommentsPage}, BoxLayout{"PrintCommentBox", FillPrintCommentPage}};
 
 }  // namespace
 

@@ -9,10 +9,10 @@
 namespace quilla {
 namespace {
 
-constexpr int kTableWidthInDigits = 40;
-constexpr int kTableRows = 28;
+constexpr int kDataWidthInDigits = 40;
+constexpr int kDataRows = 28;
 constexpr int kOptions = 3;
-constexpr int kSpacing = 16;
+constexpr int kDataSpacing = 16;
 
 }  // namespace
 
@@ -21,8 +21,8 @@ DataWindow::DataWindow(Gate& gate, EventLoop& event_loop, Form& form)
   setWindowModality(Qt::ApplicationModal);
   const auto make = [this](const char* name) { return Make(mirror_, this, name); };
   GridView* const table = MakeTable(mirror_, this, "DataTable");
-  table->setMinimumSize(DigitsWidth(*this, kTableWidthInDigits),
-                        kTableRows * fontMetrics().lineSpacing());
+  table->setMinimumSize(DigitsWidth(*this, kDataWidthInDigits),
+                        kDataRows * fontMetrics().lineSpacing());
   auto* const type = new QHBoxLayout;
   type->addWidget(make("Label5"));
   type->addWidget(MakeBold(mirror_, this, "DataTypeLabel"), 1);
@@ -43,7 +43,7 @@ DataWindow::DataWindow(Gate& gate, EventLoop& event_loop, Form& form)
   side->addStretch();
   side->addLayout(buttons);
   auto* const row = new QHBoxLayout(this);
-  row->setSpacing(kSpacing);
+  row->setSpacing(kDataSpacing);
   row->addWidget(table, 1);
   row->addLayout(side);
 }

@@ -16,7 +16,7 @@
 namespace quilla {
 namespace {
 
-bool IsUsable(const QWidget* widget) {
+bool TakesFocus(const QWidget* widget) {
   return widget != nullptr && widget->isVisible() && widget->isEnabled();
 }
 
@@ -70,7 +70,7 @@ void FormMirror::PropertyChanged(Property property) {
   } else if (property == Property::kFocus) {
     focus_asked_ = true;
     QWidget* const widget = WidgetOf(*form_.focused());
-    if (IsUsable(widget)) widget->setFocus(Qt::OtherFocusReason);
+    if (TakesFocus(widget)) widget->setFocus(Qt::OtherFocusReason);
   }
 }
 
@@ -106,9 +106,9 @@ void FormMirror::SettleFocus() {
   QWidget* const asked = std::exchange(focus_asked_, false) && form_.focused() != nullptr
                              ? WidgetOf(*form_.focused())
                              : nullptr;
-  if (IsUsable(asked)) {
+  if (TakesFocus(asked)) {
     asked->setFocus(Qt::OtherFocusReason);
-  } else if (window_.isVisible() && !IsUsable(focus_before_.data()) && focus_home) {
+  } else if (window_.isVisible() && !TakesFocus(focus_before_.data()) && focus_home) {
     focus_home();
   }
   focus_before_ = window_.focusWidget();

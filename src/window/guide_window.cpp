@@ -18,11 +18,11 @@ namespace {
 
 constexpr const char* kGuide = "qrc:/docs/guide.md";
 constexpr const char* kDemonstration = "demo";
-constexpr int kMargin = 16;
+constexpr int kGuideMargin = 16;
 constexpr int kWidestPicture = 680;
 constexpr int kSmallestZoom = -4;
 constexpr int kLargestZoom = 20;
-constexpr int kWidthInDigits = 100;
+constexpr int kGuideWidthInDigits = 100;
 constexpr int kLines = 42;
 
 /// The anchor of a heading, as links write it: "Data bytes" is #data-bytes.
@@ -62,7 +62,7 @@ void AddShortcut(GuideWindow* window, const QKeySequence& keys, const std::funct
 
 GuidePage::GuidePage(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);
-  document()->setDocumentMargin(kMargin);
+  document()->setDocumentMargin(kGuideMargin);
   connect(this, &QTextBrowser::anchorClicked, this, &GuidePage::Follow);
 }
 
@@ -131,10 +131,10 @@ GuideWindow::GuideWindow() {
   AddShortcut(this, Qt::CTRL | Qt::Key_0, [this] { page_->ZoomBack(); });
   AddShortcut(this, Qt::Key_Escape, [this] { close(); });
   const QRect place = screen()->availableGeometry();
-  const QSize wanted(kWidthInDigits * fontMetrics().horizontalAdvance(u'0'),
+  const QSize wanted(kGuideWidthInDigits * fontMetrics().horizontalAdvance(u'0'),
                      kLines * fontMetrics().lineSpacing());
   resize(wanted.boundedTo(place.size() * 4 / 5));
-  move(place.right() - width() - kMargin, place.top());  // the program's rows stay in view
+  move(place.right() - width() - kGuideMargin, place.top());  // the program's rows stay in view
 }
 
 // A window whose transient parent is a modal dialog can be used beside it.

@@ -10,7 +10,7 @@
 namespace quilla {
 namespace {
 
-constexpr int kFewestDigits = 3;
+constexpr int kFewestGutterDigits = 3;
 
 }  // namespace
 
@@ -21,7 +21,7 @@ Gutter::Gutter(QWidget* parent) : QHeaderView(Qt::Vertical, parent) {
 }
 
 QSize Gutter::sizeHint() const {
-  const auto digits = std::max<qsizetype>(QString::number(count() - 1).size(), kFewestDigits);
+  const auto digits = std::max<qsizetype>(QString::number(count() - 1).size(), kFewestGutterDigits);
   return {static_cast<int>(digits) * fontMetrics().horizontalAdvance(u'0') + 2 * kCellMargin, 0};
 }
 

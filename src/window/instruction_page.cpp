@@ -23,7 +23,7 @@ constexpr int kKeyGap = 2;
 constexpr double kHeadingScale = 0.9;
 constexpr int kMostColumns = 4;
 // A longer pause ends the typing of a name.
-constexpr int kLongestPauseMs = 1000;
+constexpr int kLongestNamePauseMs = 1000;
 
 struct Family {
   const char* heading = nullptr;
@@ -163,7 +163,7 @@ bool InstructionPage::MoveBy(QPoint direction) {
 // Letters typed in one go are a name or the beginning of one. A letter that leads nowhere begins
 // anew, and the same letter again goes on to the next key with it.
 bool InstructionPage::LookUp(const QString& letter) {
-  if (!since_typed_.isValid() || since_typed_.elapsed() > kLongestPauseMs) typed_.clear();
+  if (!since_typed_.isValid() || since_typed_.elapsed() > kLongestNamePauseMs) typed_.clear();
   since_typed_.start();
   for (const QString& beginning : {typed_ + letter, letter}) {
     const std::optional<std::size_t> key = KeyOf(beginning);

@@ -9,7 +9,7 @@ namespace {
 constexpr int kSidePadding = 7;
 constexpr int kTopPadding = 4;
 constexpr int kFewestDigits = 2;
-constexpr double kFocusWidth = 2;
+constexpr double kKeyFocusWidth = 2;
 constexpr double kFocusRadius = 3;
 
 }  // namespace
@@ -19,7 +19,7 @@ void PanelButton::paintEvent(QPaintEvent* event) {
   if (!hasFocus()) return;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(palette().color(QPalette::Highlight), kFocusWidth));
+  painter.setPen(QPen(palette().color(QPalette::Highlight), kKeyFocusWidth));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kFocusRadius, kFocusRadius);
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kDigitsInARow = 4;
 constexpr int kDigitRows = 4;
-constexpr int kKeyGap = 3;
+constexpr int kKeypadGap = 3;
 constexpr int kDisplayDigits = 4;
 constexpr double kDisplayScale = 2.0;
 
@@ -24,7 +24,7 @@ QWidget* NewKeyBlock(QWidget* parent) {
   block->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   auto* const grid = new QGridLayout(block);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(kKeyGap);
+  grid->setSpacing(kKeypadGap);
   return block;
 }
 

@@ -7,7 +7,7 @@
 namespace quilla {
 namespace {
 
-constexpr int kMargin = 20;
+constexpr int kPrintInfoMargin = 20;
 constexpr int kColumnSpacing = 32;
 constexpr int kColumns = 2;
 
@@ -17,7 +17,7 @@ PrintInfoWindow::PrintInfoWindow(Gate& gate, EventLoop& event_loop, Form& form)
     : QWidget(nullptr, Qt::Dialog), mirror_(gate, event_loop, form, *this) {
   setWindowModality(Qt::ApplicationModal);
   auto* const grid = new QGridLayout(this);
-  grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  grid->setContentsMargins(kPrintInfoMargin, kPrintInfoMargin, kPrintInfoMargin, kPrintInfoMargin);
   grid->setHorizontalSpacing(kColumnSpacing);
   int place = 0;
   // The form has its labels in pairs, a caption and its value.

@@ -28,7 +28,7 @@ constexpr double kRowHeightOfWidth = 1.0 / 36;
 constexpr double kHeadingSize = 0.9;
 constexpr double kTextSize = 0.56;
 constexpr double kPadding = 0.25;
-constexpr double kLineWidth = 0.025;
+constexpr double kRuleWidth = 0.025;
 
 // How narrow letters may become before a text is cut short.
 constexpr double kNarrowest = 0.55;
@@ -47,7 +47,7 @@ class SheetPainter {
     const auto* const table = dynamic_cast<const Grid*>(layout_.Find("Table"));
     if (table == nullptr) return;
     Measure(*table);
-    painter_.setPen(QPen(Qt::black, row_height_ * kLineWidth));
+    painter_.setPen(QPen(Qt::black, row_height_ * kRuleWidth));
     const double bottom = PaintHead();
     PaintColumnHeads(*table, bottom);
     for (int row = 0; row < table->Rows(); ++row) {

@@ -28,7 +28,7 @@ constexpr int kLineWidth = 24;
 constexpr int kInstructionWidth = 46;
 constexpr int kInterruptRows = 7;
 constexpr int kFewestRows = 6;
-constexpr int kPreferredLines = 46;
+constexpr int kPreferredWatchLines = 46;
 constexpr int kAddressDigits = 4;
 constexpr int kPortDigits = 2;
 
@@ -79,7 +79,8 @@ void WatchWindow::PutInScrollArea(QWidget& content) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(area);
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  const QSize wish(content.sizeHint().width() + bar, kPreferredLines * fontMetrics().lineSpacing());
+  const QSize wish(content.sizeHint().width() + bar,
+                   kPreferredWatchLines * fontMetrics().lineSpacing());
   resize(wish.expandedTo(content.minimumSizeHint()).boundedTo(RoomOnScreen(*this)));
 }
 

@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
   quilla::LetLongFilesFail();
   QApplication application(argc, argv);
   QApplication::setApplicationName("Quilla");
+  QGuiApplication::setDesktopFileName("quilla");
   QApplication::setQuitOnLastWindowClosed(false);
   quilla::QtOutside outside;
   quilla::Quilla quilla(outside.ports());

@@ -2,11 +2,13 @@
 # Checks every project of a folder: opens it, assembles it, steps it to its halt, and compares the
 # cells that matter with answer.txt. A line for each project; 0 if all are right, 1 if not.
 #   check.sh FOLDER
-# QUILLA_ROBOT names the robot if it is not on the path.
+# QUILLA_ROBOT names the robot if it is neither installed with this folder nor on the path.
 set -eu
 [ $# -eq 1 ] || { echo "usage: $0 FOLDER" >&2 && exit 2; }
 here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
-robot=${QUILLA_ROBOT:-quilla-robot}
+installed=$here/../../../../../bin/quilla-robot
+[ -x "$installed" ] || installed=quilla-robot
+robot=${QUILLA_ROBOT:-$installed}
 most_steps=100
 most_seconds=60 # some programs never finish assembling
 

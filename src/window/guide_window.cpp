@@ -2,6 +2,9 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBoxLayout>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPushButton>
@@ -54,6 +57,11 @@ QString HtmlOf(const QString& path) {
   return page.toHtml();
 }
 
+/// Where a text or an example is installed, wherever the program stands.
+QString InstalledPath(const QString& path) {
+  return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" QUILLA_TEXTS + path);
+}
+
 void AddShortcut(GuideWindow* window, const QKeySequence& keys, const std::function<void()>& act) {
   QObject::connect(new QShortcut(keys, window), &QShortcut::activated, window, act);
 }
@@ -86,7 +94,7 @@ void GuidePage::Zoom(int steps) {
   zoom_ = wanted;
 }
 
-// A link to what is not compiled in, such as a folder of examples, leads nowhere.
+// What is not compiled in, such as a folder of examples, is shown by the desktop.
 void GuidePage::Follow(const QUrl& link) {
   if (link.scheme() == kDemonstration) {
     Q_EMIT DemonstrationChosen(link.path());
@@ -95,6 +103,8 @@ void GuidePage::Follow(const QUrl& link) {
   const QUrl target = source().resolved(link);
   if (target.scheme() == u"qrc" && QFile::exists(u':' + target.path())) {
     setSource(target, QTextDocument::HtmlResource);
+  } else if (const QString path = InstalledPath(target.path()); QFile::exists(path)) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
   }
 }
 

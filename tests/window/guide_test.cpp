@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -64,8 +66,14 @@ TEST(GuideTest, TurnsToASectionAndFollowsItsLinks) {
   }
   Q_EMIT page.anchorClicked(QUrl("instruction-set.md"));
   EXPECT_EQ(page.source(), QUrl("qrc:/docs/instruction-set.md"));
+  QTextBrowser desktop;
+  QUrl shown;
+  QObject::connect(&desktop, &QTextBrowser::anchorClicked, [&](const QUrl& url) { shown = url; });
+  QDesktopServices::setUrlHandler("file", &desktop, "anchorClicked");
   Q_EMIT page.anchorClicked(QUrl("../examples/checking"));
+  QDesktopServices::unsetUrlHandler("file");
   EXPECT_EQ(page.source(), QUrl("qrc:/docs/instruction-set.md")) << "no page";
+  EXPECT_TRUE(QFileInfo::exists(shown.toLocalFile() + "/check.sh"));
   page.backward();
   EXPECT_EQ(page.cursorForPosition({40, 5}).block().text().toStdString(), "Equivalents");
   QPalette palette;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <random>
 #include <string>
@@ -20,7 +21,74 @@ namespace {
 
 constexpr int kNames = 8;
 
-class RandomProgramsTest : public testing::TestWithParam<unsigned> {
+class ProgramTest : public testing::Test {
+ protected:
+  const std::string& Cell(int row, int column) {
+    return program_.session().Table1.TextMatrix(row, column);
+  }
+
+  bool IsData(int row) { return Cell(row, kMnemonicColumn) == kDataMnemonic; }
+
+  /// The Opcode cells of the rows that have one, with the mnemonic of data before theirs.
+  std::vector<std::string> Cells() {
+    std::vector<std::string> cells;
+    for (int row = 0; row < program_.session().Table1.Rows() - 1; ++row) {
+      const std::string& cell = Cell(row, kOpcodeColumn);
+      if (!cell.empty()) cells.push_back((IsData(row) ? kDataMnemonic : "") + cell);
+    }
+    return cells;
+  }
+
+  /// Marks the bytes of each row by a drag upwards, presses Done and waits.
+  void MarkAsInProgram(Form& dialog) {
+    auto& table = dynamic_cast<Grid&>(*dialog.Find("DataTable"));
+    int first = 1;
+    for (int row = 0; row < program_.session().Table1.Rows() - 1; ++row) {
+      const int bytes = ByteCount(Cell(row, kOpcodeColumn));
+      if (bytes == 0) continue;
+      dialog.Find("DataType", IsData(row) ? 0 : 1)->Choose();
+      table.PressCell(first + bytes - 1, 0);
+      table.ReleaseAt(first);
+      first += bytes;
+    }
+    EXPECT_EQ(table.Rows(), first);
+    dialog.Find("DoneButton")->Choose();
+    program_.Wait();
+  }
+
+  /// Assembles the program, and the program that comes of disassembling that.
+  void CheckRoundTrip() {
+    Session& session = program_.session();
+    program_.Choose(session.menu.AssembleFile, "first.hex");
+    if (!RecordsAreGood(session.HexList)) return;  // a checksum of three digits
+    const std::vector<std::string> records = session.HexList.items();
+    const std::vector<std::string> cells = Cells();
+    program_.InDialog([this](Form& dialog) { MarkAsInProgram(dialog); });
+    session.FileChanged = false;
+    program_.Choose(session.menu.DisassembleFile, "first.hex");
+    EXPECT_EQ(session.TipsLabel.caption(), "Disassembling completed successfully.");
+    EXPECT_EQ(Cells(), cells);
+    program_.Choose(session.menu.AssembleFile, "second.hex");
+    EXPECT_EQ(session.HexList.items(), records);
+  }
+
+  robot::ScratchFolder folder_{"no files"};
+  RunningProgram program_;
+};
+
+TEST_F(ProgramTest, TheExamplesComeBackFromTheirHexFiles) {
+  int examples = 0;
+  for (const auto& file : std::filesystem::directory_iterator(QUILLA_SOURCE_DIR "/examples")) {
+    if (file.path().extension() != ".baf") continue;
+    SCOPED_TRACE(file.path().stem().string());
+    program_.Open(file.path().string());
+    CheckRoundTrip();
+    ++examples;
+  }
+  EXPECT_EQ(examples, 9);
+}
+
+class RandomProgramsTest : public ProgramTest, public testing::WithParamInterface<unsigned> {
  protected:
   RandomProgramsTest() : random_(GetParam()) {
     Session& session = program_.session();
@@ -53,9 +121,6 @@ class RandomProgramsTest : public testing::TestWithParam<unsigned> {
   void Set(int row, int column, std::string text) {
     program_.session().Table1.SetTextMatrix(row, column, std::move(text));
   }
-  const std::string& Cell(int row, int column) {
-    return program_.session().Table1.TextMatrix(row, column);
-  }
 
   void MakeRow(int row) {
     Session& session = program_.session();
@@ -74,37 +139,6 @@ class RandomProgramsTest : public testing::TestWithParam<unsigned> {
     }
   }
 
-  bool IsData(int row) { return Cell(row, kMnemonicColumn) == kDataMnemonic; }
-
-  /// The Opcode cells of the rows that have one, with the mnemonic of data before theirs.
-  std::vector<std::string> Cells() {
-    std::vector<std::string> cells;
-    for (int row = 0; row < program_.session().Table1.Rows() - 1; ++row) {
-      const std::string& cell = Cell(row, kOpcodeColumn);
-      if (!cell.empty()) cells.push_back((IsData(row) ? kDataMnemonic : "") + cell);
-    }
-    return cells;
-  }
-
-  /// Marks the bytes of each row by a drag upwards, presses Done and waits.
-  void MarkAsInProgram(Form& dialog) {
-    auto& table = dynamic_cast<Grid&>(*dialog.Find("DataTable"));
-    int first = 1;
-    for (int row = 0; row < program_.session().Table1.Rows() - 1; ++row) {
-      const int bytes = ByteCount(Cell(row, kOpcodeColumn));
-      if (bytes == 0) continue;
-      dialog.Find("DataType", IsData(row) ? 0 : 1)->Choose();
-      table.PressCell(first + bytes - 1, 0);
-      table.ReleaseAt(first);
-      first += bytes;
-    }
-    EXPECT_EQ(table.Rows(), first);
-    dialog.Find("DoneButton")->Choose();
-    program_.Wait();
-  }
-
-  robot::ScratchFolder folder_{"no files"};
-  RunningProgram program_;
   std::mt19937 random_;
 };
 
@@ -186,20 +220,7 @@ TEST_P(RandomProgramsTest, AFileGivesTheSameProgram) {
   EXPECT_EQ(reader.TakeBoxes() + program_.TakeBoxes(), "");
 }
 
-TEST_P(RandomProgramsTest, WhatWasAssembledComesBack) {
-  Session& session = program_.session();
-  program_.Choose(session.menu.AssembleFile, "first.hex");
-  if (!RecordsAreGood(session.HexList)) return;  // a checksum of three digits
-  const std::vector<std::string> records = session.HexList.items();
-  const std::vector<std::string> cells = Cells();
-  program_.InDialog([this](Form& dialog) { MarkAsInProgram(dialog); });
-  session.FileChanged = false;
-  program_.Choose(session.menu.DisassembleFile, "first.hex");
-  EXPECT_EQ(session.TipsLabel.caption(), "Disassembling completed successfully.");
-  EXPECT_EQ(Cells(), cells);
-  program_.Choose(session.menu.AssembleFile, "second.hex");
-  EXPECT_EQ(session.HexList.items(), records);
-}
+TEST_P(RandomProgramsTest, WhatWasAssembledComesBack) { CheckRoundTrip(); }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomProgramsTest, testing::Range(1U, 13U));
 

@@ -22,6 +22,8 @@ class ScriptedEventLoop : public EventLoop {
 
   /// Plays one command for a handler that waits; false at the end of the script.
   std::function<bool()> play_command;
+  /// Waits for a handler that never comes back. It may throw what is no std::exception.
+  std::function<void()> never_return = WaitForTheEnd;
   /// Told when a window, the panel included, comes into sight and goes.
   std::function<void(Form&)> on_open;
   std::function<void(Form&)> on_close;
@@ -37,7 +39,7 @@ class ScriptedEventLoop : public EventLoop {
   /// ScriptOver, here and below.
   void Yield(const Control& waiter) override;
   void End() override { ended_ = true; }
-  void NeverReturn() override { WaitForTheEnd(); }
+  void NeverReturn() override { never_return(); }
 
  protected:
   void OpenWindow(Form& form) override;

@@ -3,22 +3,17 @@
 // Input: the first byte says how the rest is meant: a file as it stands (even), or the fields of
 // records that get their checksums here (odd). The second byte says how many of the bytes behind it
 // are marks: category and length of a run of rows, for one try after the other.
-#include "fuzz/hex_fuzz.h"
-
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 #include <string_view>
 
 #include "disassembler/data_dialog.h"
 #include "formats/hex_records.h"
+#include "fuzz/fuzz.h"
 #include "platform/number_text.h"
 #include "program/desk.h"
 
-namespace quilla {
+namespace quilla::fuzz {
 namespace {
 
 /// The parts that disassembling takes, joined as the panel joins them.
@@ -28,10 +23,6 @@ struct Workshop : Desk {
   AddressAssignment addresses{session, states, rows};
   DataDialog dialog{session, rows, origins, addresses};
 };
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
 
 /// The records that bytes of any value make: a count and an address, then so many bytes.
 std::string MakeRecords(std::string_view fields) {
@@ -75,22 +66,16 @@ void TryOnce(Workshop& shop, std::string_view marks) {
 }
 
 }  // namespace
-}  // namespace quilla
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace quilla;  // NOLINT(google-build-using-namespace): the harness's own function
-  if (size < 2) return 0;
-  const std::string_view input(reinterpret_cast<const char*>(data), size);
-  const std::size_t marked = std::min<std::size_t>(data[1], size - 2);
+void HexFile(std::string_view input) {
+  if (input.size() < 2) return;
+  const std::size_t marked =
+      std::min<std::size_t>(static_cast<unsigned char>(input[1]), input.size() - 2);
   const std::string_view marks = input.substr(2, marked);
   const std::string_view rest = input.substr(2 + marked);
-  static const std::string kPath = (std::filesystem::temp_directory_path() /
-                                    ("quilla-fuzz-" + std::to_string(std::random_device()())))
-                                       .string();
-  std::ofstream(kPath, std::ios::binary)
-      << (data[0] % 2 == 0 ? std::string(rest) : MakeRecords(rest));
   Workshop shop;
-  shop.outside.file_dialogs.Queue(kPath);
+  shop.outside.file_dialogs.Queue(
+      FileOf(input[0] % 2 == 0 ? std::string(rest) : MakeRecords(rest)));
   shop.outside.event_loop.play_command = [&] {
     TryOnce(shop, marks.substr(0, marked / 2));
     TryOnce(shop, marks.substr(marked / 2));
@@ -98,5 +83,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     return true;
   };
   shop.session.menu.DisassembleFile.Choose();
-  return 0;
 }
+
+}  // namespace quilla::fuzz

@@ -291,6 +291,13 @@ void GridView::Land() {
   selectionModel()->setCurrentIndex(place, QItemSelectionModel::NoUpdate);
 }
 
+// Qt moves to hidden cells too, at the ends.
+QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  const QModelIndex place = QTableView::moveCursor(action, modifiers);
+  const bool hidden = isRowHidden(place.row()) || isColumnHidden(place.column());
+  return hidden ? currentIndex() : place;
+}
+
 void GridView::focusInEvent(QFocusEvent* event) {
   const Qt::FocusReason reason = event->reason();
   const bool is_back = reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason ||

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QScrollArea>
 
+#include "platform/number_text.h"
 #include "program/vocabulary.h"
 #include "window/bindings.h"
 #include "window/key_button.h"
@@ -29,8 +30,6 @@ constexpr int kInstructionWidth = 46;
 constexpr int kInterruptRows = 7;
 constexpr int kFewestRows = 6;
 constexpr int kPreferredWatchLines = 46;
-constexpr int kAddressDigits = 4;
-constexpr int kPortDigits = 2;
 
 QString MeaningOfLine(CellColor color) {
   if (color == kEnabledColor) return "enabled";
@@ -63,7 +62,7 @@ WatchWindow::WatchWindow(Gate& gate, EventLoop& event_loop, Form& form)
   tables->setRowStretch(1, 1);
   column->addLayout(tables, 1);
   findChild<GridView*>("MemoryTable")->SetAddressDigits(kAddressDigits);
-  findChild<GridView*>("PortTable")->SetAddressDigits(kPortDigits);
+  findChild<GridView*>("PortTable")->SetAddressDigits(kByteDigits);
   mirror_.passes_characters_on = false;
   PutInScrollArea(*content);
 }

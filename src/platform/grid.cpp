@@ -15,7 +15,7 @@ constexpr int kNoWidth = -1;
 }  // namespace
 
 Grid::Grid(Control* container, std::string name, int columns)
-    : Control(container, std::move(name)), columns_(columns) {
+    : Control(container, std::move(name)), columns_(static_cast<std::size_t>(columns)) {
   widths_.fill(kNoWidth);
 }
 
@@ -35,19 +35,22 @@ void Grid::InsertRows(int at, int count) {
   if (at < 0 || at > Rows() || count < 0) throw Failure(ErrorNumber::kOutsideTable);
   if (count > kMaxRows - Rows()) throw Failure(ErrorNumber::kGridMemory);
   if (count == 0) return;
-  const std::size_t cells = static_cast<std::size_t>(count) * static_cast<std::size_t>(columns_);
-  MakeRoom(cells_.size() + cells);
+  MakeRoom(Rows() + count);
   if (grid_observer != nullptr) grid_observer->BeginInsertRows(at, at + count - 1);
-  cells_.insert(StartOf(at), cells, Cell{});
+  for (std::vector<Cell>& cells : columns_) {
+    cells.insert(cells.begin() + at, static_cast<std::size_t>(count), Cell{});
+  }
   rows_ += count;
   if (grid_observer != nullptr) grid_observer->EndInsertRows();
 }
 
 // Ahead of the change, so that nothing fails between its beginning and its end.
-void Grid::MakeRoom(std::size_t cells) {
-  if (cells <= cells_.capacity()) return;
+void Grid::MakeRoom(int rows) {
+  const auto needed = static_cast<std::size_t>(rows);
   try {
-    cells_.reserve(std::max(cells, 2 * cells_.capacity()));
+    for (std::vector<Cell>& cells : columns_) {
+      if (needed > cells.capacity()) cells.reserve(std::max(needed, 2 * cells.capacity()));
+    }
   } catch (const std::bad_alloc&) {
     throw Failure(ErrorNumber::kGridMemory);
   }
@@ -61,24 +64,26 @@ void Grid::AddItem(std::string text) {
 void Grid::RemoveRows(int first, int last) {
   if (first < 0 || last >= Rows() || first > last) throw Failure(ErrorNumber::kOutsideTable);
   if (grid_observer != nullptr) grid_observer->BeginRemoveRows(first, last);
-  cells_.erase(StartOf(first), StartOf(last + 1));
+  for (std::vector<Cell>& cells : columns_) {
+    cells.erase(cells.begin() + first, cells.begin() + last + 1);
+  }
   rows_ -= last - first + 1;
   KeepCurrentCellInside();
   if (grid_observer != nullptr) grid_observer->EndRemoveRows();
 }
 
 void Grid::Clear() {
-  std::fill(cells_.begin(), cells_.end(), Cell{});
+  for (std::vector<Cell>& cells : columns_) {
+    for (Cell& cell : cells) {
+      cell.text.clear();
+      cell.back = kNormalColor;
+      cell.fore = kNormalColor;
+    }
+  }
   if (grid_observer != nullptr && Rows() > 0) grid_observer->RowsChanged(0, Rows() - 1);
 }
 
-const Grid::Cell& Grid::CellAt(int row, int column) const {
-  if (row < 0 || row >= Rows() || column < 0 || column >= columns_) {
-    throw Failure(ErrorNumber::kOutsideTable);
-  }
-  return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-                static_cast<std::size_t>(column)];
-}
+void Grid::FailOutside() { throw Failure(ErrorNumber::kOutsideTable); }
 
 void Grid::SetTextMatrix(int row, int column, std::string text) {
   std::string& cell = CellAt(row, column).text;

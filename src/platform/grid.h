@@ -73,7 +73,7 @@ class Grid : public Control {
   ~Grid() override;
 
   int Rows() const { return rows_; }
-  int Cols() const { return columns_; }
+  int Cols() const { return static_cast<int>(columns_.size()); }
   /// Adds empty rows at the end, or removes rows there. Fails with `kGridMemory` beyond kMaxRows
   /// or out of memory, the table being as before, and with `kOutsideTable` below 0.
   void SetRows(int rows);
@@ -157,24 +157,25 @@ class Grid : public Control {
     CellColor fore;
   };
 
-  const Cell& CellAt(int row, int column) const;
+  const Cell& CellAt(int row, int column) const {
+    if (row < 0 || row >= rows_ || column < 0 || column >= Cols()) FailOutside();
+    return columns_[static_cast<std::size_t>(column)][static_cast<std::size_t>(row)];
+  }
   Cell& CellAt(int row, int column) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the grid is not constant here
     return const_cast<Cell&>(static_cast<const Grid*>(this)->CellAt(row, column));
   }
-  std::vector<Cell>::iterator StartOf(int row) {
-    return cells_.begin() + static_cast<std::ptrdiff_t>(row) * columns_;
-  }
-  void MakeRoom(std::size_t cells);
+  [[noreturn]] static void FailOutside();
+  void MakeRoom(int rows);
   void MoveTo(int row, int column);
   void KeepCurrentCellInside();
   void RowChanged(int row) const {
     if (grid_observer != nullptr) grid_observer->RowsChanged(row, row);
   }
 
-  int columns_;
   int rows_ = 0;
-  std::vector<Cell> cells_;  // row by row
+  // Column by column: the passes over all rows are those that look for labels and origins.
+  std::vector<std::vector<Cell>> columns_;
   int row_ = 0;
   int column_ = 0;
   int row_sel_ = 0;

@@ -10,12 +10,6 @@ namespace {
 constexpr const char* kStrayText = "2";
 constexpr const char* kGeneratedLabel = "a";
 
-std::unordered_map<std::string, int> PositionsIn(const TextList& list) {
-  std::unordered_map<std::string, int> positions;
-  for (int i = 0; i < list.Count(); ++i) positions.emplace(list[i], i);
-  return positions;
-}
-
 }  // namespace
 
 RowClipboard::RowClipboard(Session& session, StateMachine& states, Rows& rows, StringLists& strings)
@@ -94,8 +88,8 @@ void RowClipboard::PasteEdit_Click() {
   const int count = session_.EditTable.Rows();
   session_.SetTip("Pasting . . .");
   rows_.InsertLine(paste_row, count);
-  Positions labels = PositionsIn(session_.LabelCombo);
-  Positions variables = PositionsIn(session_.XXCombo);
+  ListIndex labels(session_.LabelCombo);
+  ListIndex variables(session_.XXCombo);
   for (int i = 0; i < count; ++i) PasteRow(i, paste_row + i, labels, variables);
   strings_.UpdateLabels();
   rows_.NextLine(paste_row + count);
@@ -104,7 +98,7 @@ void RowClipboard::PasteEdit_Click() {
   session_.FileChanged = true;
 }
 
-void RowClipboard::PasteRow(int clip_row, int row, Positions& labels, Positions& variables) {
+void RowClipboard::PasteRow(int clip_row, int row, ListIndex& labels, ListIndex& variables) {
   const Grid& clip = session_.EditTable;
   for (int column = 0; column < kProgramColumns; ++column) {
     session_.Table1.SetTextMatrix(row, column, clip.TextMatrix(clip_row, column));
@@ -112,7 +106,7 @@ void RowClipboard::PasteRow(int clip_row, int row, Positions& labels, Positions&
   const std::string operand = session_.EditStringTable[clip_row];
   session_.StringTable.SetTextMatrix(row, 0, operand);
   const std::string& label = clip.TextMatrix(clip_row, kLabelColumn);
-  if (!label.empty() && label != kOrigin && !labels.contains(label)) {
+  if (!label.empty() && label != kOrigin && !labels.Contains(label)) {
     AddLabel({.name = label,
               .placed = kYesFlag,
               .used = kNoFlag,
@@ -124,21 +118,22 @@ void RowClipboard::PasteRow(int clip_row, int row, Positions& labels, Positions&
   const std::string& cell = clip.TextMatrix(clip_row, kOpcodeColumn);
   if (!HasVariable(cell)) {
     PasteLabelOperand(clip_row, row, labels);
-  } else if (variables.emplace(operand, session_.XXCombo.Count()).second) {
+  } else if (!variables.Contains(operand)) {
     session_.AddVariable(operand, std::string(ByteAt(cell, 1)));
+    variables.CatchUp();
   }
 }
 
-void RowClipboard::PasteLabelOperand(int clip_row, int row, Positions& labels) {
+void RowClipboard::PasteLabelOperand(int clip_row, int row, ListIndex& labels) {
   std::string name = session_.EditStringTable[clip_row];
   const std::string address = AddressIn(session_.EditTable.TextMatrix(clip_row, kOpcodeColumn));
-  if (const auto found = labels.find(name); found != labels.end()) {
-    if (session_.LabelEqtList[found->second] == address) return;
+  if (const int known = labels.Find(name); known != ListIndex::kNone) {
+    if (session_.LabelEqtList[known] == address) return;
     // The same name would stand for two addresses.
     const auto generated = [this] {
       return std::string(kGeneratedLabel).append(std::to_string(session_.NextLabelNumber));
     };
-    while (labels.contains(generated())) ++session_.NextLabelNumber;
+    while (labels.Contains(generated())) ++session_.NextLabelNumber;
     name = generated();
     RenameOperand(clip_row, row, name);
   }
@@ -156,9 +151,9 @@ void RowClipboard::RenameOperand(int clip_row, int row, const std::string& new_n
   session_.StringTable.SetTextMatrix(row, 0, new_name);
 }
 
-void RowClipboard::AddLabel(const LabelRecord& label, Positions& labels) {
-  labels.emplace(label.name, session_.LabelCombo.Count());
+void RowClipboard::AddLabel(const LabelRecord& label, ListIndex& labels) {
   session_.AddLabel(label);
+  labels.CatchUp();
 }
 
 }  // namespace quilla

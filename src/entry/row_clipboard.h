@@ -4,8 +4,8 @@
 #define QUILLA_ENTRY_ROW_CLIPBOARD_H_
 
 #include <string>
-#include <unordered_map>
 
+#include "platform/list_index.h"
 #include "program/rows.h"
 #include "program/session.h"
 #include "program/state_machine.h"
@@ -18,9 +18,6 @@ class RowClipboard {
   RowClipboard(Session& session, StateMachine& states, Rows& rows, StringLists& strings);
 
  private:
-  /// The position of each string in its list, while rows are pasted.
-  using Positions = std::unordered_map<std::string, int>;
-
   void CopyMnemonics();
   void CopyEdit_Click();
   void CutEdit_Click();
@@ -29,10 +26,10 @@ class RowClipboard {
 
   /// Where a row stands once the selected rows are gone; their top for one of them.
   int RowAfterDelete(int row) const;
-  void PasteRow(int clip_row, int row, Positions& labels, Positions& variables);
-  void PasteLabelOperand(int clip_row, int row, Positions& labels);
+  void PasteRow(int clip_row, int row, ListIndex& labels, ListIndex& variables);
+  void PasteLabelOperand(int clip_row, int row, ListIndex& labels);
   void RenameOperand(int clip_row, int row, const std::string& new_name);
-  void AddLabel(const LabelRecord& label, Positions& labels);
+  void AddLabel(const LabelRecord& label, ListIndex& labels);
 
   Session& session_;
   StateMachine& states_;

@@ -33,8 +33,8 @@ void AddressAssignment::Assign_Address(bool AddressMessageEnable) {
   session_.AddressError = false;
   session_.OriginList.Clear();
   session_.LastAddressList.Clear();
-  if (AddressMessageEnable && !CheckStrings()) return;
-  const LabelIndex labels = IndexOf(session_.LabelCombo);
+  const ListIndex labels(session_.LabelCombo);
+  if (AddressMessageEnable && !CheckStrings(labels)) return;
   int row = 0;
   do {
     std::int64_t last_address = 0;
@@ -42,26 +42,25 @@ void AddressAssignment::Assign_Address(bool AddressMessageEnable) {
     if (!AddressMessageEnable || session_.AddressError) return;
     session_.LastAddressList.Add(AddressText(last_address));
   } while (row < session_.Table1.Rows() - 1);
-  PatchLabelOperands();
+  PatchLabelOperands(labels);
   CheckOverlaps();
   states_.ReturnToReady();
 }
 
-bool AddressAssignment::CheckStrings() {
-  const auto variables = IndexOf(session_.XXCombo);
+bool AddressAssignment::CheckStrings(const ListIndex& labels) {
+  const ListIndex variables(session_.XXCombo);
   for (const std::string& label : session_.LabelCombo.items()) {
-    if (!variables.contains(label)) continue;
+    if (!variables.Contains(label)) continue;
     ReportError("The string '" + label + "' is used as both label and variable.");
     return false;
   }
-  std::unordered_map<std::string_view, int> rows_with;
-  rows_with.reserve(session_.LabelCombo.items().size());
+  std::vector<int> rows_with(labels.size());
   for (int row = 0; row < session_.Table1.Rows(); ++row) {
-    ++rows_with[session_.Table1.TextMatrix(row, kLabelColumn)];
+    const int label = labels.Find(session_.Table1.TextMatrix(row, kLabelColumn));
+    if (label != ListIndex::kNone) ++rows_with[static_cast<std::size_t>(label)];
   }
   for (const std::string& label : session_.LabelCombo.items()) {
-    const auto found = rows_with.find(label);
-    if (found == rows_with.end() || found->second < 2) continue;
+    if (rows_with[static_cast<std::size_t>(labels.Find(label))] < 2) continue;
     ReportError("Compile error. There is more than one instance of the label '" + label +
                 "' in the Label field.");
     return false;
@@ -69,7 +68,7 @@ bool AddressAssignment::CheckStrings() {
   return true;
 }
 
-int AddressAssignment::AssignBlock(int row, const LabelIndex& labels, std::int64_t& last_address) {
+int AddressAssignment::AssignBlock(int row, const ListIndex& labels, std::int64_t& last_address) {
   Grid& table = session_.Table1;
   const std::string origin = table.TextMatrix(row, kAddressColumn);
   session_.OriginList.Add(origin);
@@ -87,8 +86,8 @@ int AddressAssignment::AssignBlock(int row, const LabelIndex& labels, std::int64
     const std::string text = AddressText(address);
     table.SetTextMatrix(row, kAddressColumn, text);
     const std::string& label = table.TextMatrix(row, kLabelColumn);
-    if (const auto found = labels.find(label); !label.empty() && found != labels.end()) {
-      session_.LabelEqtList.Set(found->second, text);
+    if (const int known = labels.Find(label); !label.empty() && known != ListIndex::kNone) {
+      session_.LabelEqtList.Set(known, text);
     }
     // A cell of no known form is as long as the one before it.
     if (const int bytes = ByteCount(table.TextMatrix(row, kOpcodeColumn)); bytes > 0) size = bytes;
@@ -97,18 +96,21 @@ int AddressAssignment::AssignBlock(int row, const LabelIndex& labels, std::int64
   return row;
 }
 
-void AddressAssignment::PatchLabelOperands() {
-  LabelIndex labels;
-  labels.reserve(session_.LabelCombo.items().size());
-  for (int i = 0; i < session_.LabelCombo.Count(); ++i) labels[session_.LabelCombo[i]] = i;
+void AddressAssignment::PatchLabelOperands(const ListIndex& labels) {
+  // The last of labels of one name counts.
+  std::vector<int> last_of(labels.size());
+  for (int i = 0; i < session_.LabelCombo.Count(); ++i) {
+    last_of[static_cast<std::size_t>(labels.Find(session_.LabelCombo[i]))] = i;
+  }
   for (int row = 1; row < session_.Table1.Rows(); ++row) {
     const std::string& operand = session_.OperandOf(row);
     if (operand.empty()) continue;
-    const auto found = labels.find(operand);
-    if (found == labels.end()) continue;
-    session_.Table1.SetTextMatrix(row, kOpcodeColumn,
-                                  WithLabel(session_.Table1.TextMatrix(row, kOpcodeColumn),
-                                            session_.LabelEqtList[found->second]));
+    const int label = labels.Find(operand);
+    if (label == ListIndex::kNone) continue;
+    const int last = last_of[static_cast<std::size_t>(label)];
+    session_.Table1.SetTextMatrix(
+        row, kOpcodeColumn,
+        WithLabel(session_.Table1.TextMatrix(row, kOpcodeColumn), session_.LabelEqtList[last]));
   }
 }
 

@@ -5,9 +5,8 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
-#include <unordered_map>
 
+#include "platform/list_index.h"
 #include "platform/timer.h"
 #include "program/rows.h"
 #include "program/session.h"
@@ -28,14 +27,11 @@ class AddressAssignment {
  private:
   static constexpr int kDelayMs = 10;
 
-  /// The position of each label in LabelCombo, for the time of one assignment.
-  using LabelIndex = std::unordered_map<std::string_view, int>;
-
   void AssignAddress_Click();
-  bool CheckStrings();
+  bool CheckStrings(const ListIndex& labels);
   /// Assigns the block whose origin is in `row`. Gives the row that ends it.
-  int AssignBlock(int row, const LabelIndex& labels, std::int64_t& last_address);
-  void PatchLabelOperands();
+  int AssignBlock(int row, const ListIndex& labels, std::int64_t& last_address);
+  void PatchLabelOperands(const ListIndex& labels);
   void CheckOverlaps();
   void ReportError(const std::string& text);
 

@@ -1,9 +1,10 @@
 #include "symbols/string_lists.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <cstddef>
 #include <vector>
 
+#include "platform/list_index.h"
 #include "program/opcode_cell.h"
 
 namespace quilla {
@@ -11,26 +12,26 @@ namespace {
 
 bool IsNameCharacter(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z'); }
 
-/// The operand strings of all rows but the first whose Opcode cell has `length` characters.
-std::unordered_set<std::string_view> OperandsOfLength(const Session& session, std::size_t length) {
-  std::unordered_set<std::string_view> operands;
-  operands.reserve(session.LabelCombo.items().size());
+/// Which names are the operand string of a row, the first row aside, whose Opcode cell has `length`
+/// characters: a flag for each position that the index gives.
+std::vector<bool> UsedNames(const Session& session, const ListIndex& names, std::size_t length) {
+  std::vector<bool> used(names.size());
   for (int row = 1; row < session.Table1.Rows(); ++row) {
-    const std::string& operand = session.OperandOf(row);
-    if (session.Table1.TextMatrix(row, kOpcodeColumn).size() == length) {
-      operands.insert(operand);
-    }
+    if (session.Table1.TextMatrix(row, kOpcodeColumn).size() != length) continue;
+    const int name = names.Find(session.OperandOf(row));
+    if (name != ListIndex::kNone) used[static_cast<std::size_t>(name)] = true;
   }
-  return operands;
+  return used;
 }
 
-/// The first row, row 0 aside, that each text of the Label column stands in.
-std::unordered_map<std::string_view, int> PlacesOfLabels(const Session& session) {
-  std::unordered_map<std::string_view, int> places;
-  places.reserve(session.LabelCombo.items().size());
+/// The first row, row 0 aside, that each label stands in; 0 for one that stands nowhere.
+std::vector<int> PlacesOfLabels(const Session& session, const ListIndex& labels) {
+  std::vector<int> places(labels.size());
   for (int row = 1; row < session.Table1.Rows(); ++row) {
-    const std::string& label = session.Table1.TextMatrix(row, kLabelColumn);
-    places.try_emplace(label, row);
+    const int label = labels.Find(session.Table1.TextMatrix(row, kLabelColumn));
+    if (label == ListIndex::kNone) continue;
+    int& place = places[static_cast<std::size_t>(label)];
+    if (place == 0) place = row;
   }
   return places;
 }
@@ -40,13 +41,6 @@ std::unordered_map<std::string_view, int> PlacesOfLabels(const Session& session)
 bool IsGoodName(std::string_view name) {
   return !name.empty() && name.front() >= 'a' &&
          std::all_of(name.begin(), name.end(), IsNameCharacter);
-}
-
-std::unordered_map<std::string_view, int> IndexOf(const TextList& list) {
-  std::unordered_map<std::string_view, int> index;
-  index.reserve(list.items().size());
-  for (int i = 0; i < list.Count(); ++i) index.emplace(list[i], i);
-  return index;
 }
 
 StringLists::StringLists(Session& session, StateMachine& states)
@@ -59,15 +53,15 @@ bool StringLists::IsTaken(const std::string& name) const {
 }
 
 void StringLists::UpdateLabels() {
-  const auto places = PlacesOfLabels(session_);
-  const auto operands = OperandsOfLength(session_, kThreeByteCell);
+  const ListIndex labels(session_.LabelCombo);
+  const std::vector<int> places = PlacesOfLabels(session_, labels);
+  const std::vector<bool> used = UsedNames(session_, labels, kThreeByteCell);
   for (int i = 0; i < session_.LabelCombo.Count(); ++i) {
-    const std::string& label = session_.LabelCombo[i];
-    const auto place = places.find(label);
-    const bool placed = place != places.end();
+    const auto label = static_cast<std::size_t>(labels.Find(session_.LabelCombo[i]));
+    const bool placed = places[label] > 0;
     session_.LabelPlacedList.Set(i, placed ? kYesFlag : kNoFlag);
-    session_.LabelLineList.Set(i, placed ? std::to_string(place->second) : kNoFlag);
-    session_.LabelUsedList.Set(i, operands.contains(label) ? kYesFlag : kNoFlag);
+    session_.LabelLineList.Set(i, placed ? std::to_string(places[label]) : kNoFlag);
+    session_.LabelUsedList.Set(i, used[label] ? kYesFlag : kNoFlag);
   }
   CopyLabels();
 }
@@ -97,10 +91,11 @@ void StringLists::DeleteUnusedLabels_Click() {
 }
 
 void StringLists::DeleteUnusedVariables() {
-  const auto operands = OperandsOfLength(session_, kTwoByteCell);
+  const ListIndex variables(session_.XXCombo);
+  const std::vector<bool> used = UsedNames(session_, variables, kTwoByteCell);
   std::vector<bool> unused;
   for (const std::string& variable : session_.XXCombo.items()) {
-    unused.push_back(!operands.contains(variable));
+    unused.push_back(!used[static_cast<std::size_t>(variables.Find(variable))]);
   }
   session_.XXCombo.RemoveMarked(unused);
   session_.XXEqtList.RemoveMarked(unused);

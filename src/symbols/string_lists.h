@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 #include "program/session.h"
 #include "program/state_machine.h"
@@ -16,9 +15,6 @@ inline constexpr int kLongestName = 6;
 
 /// Whether a new string may be spelled so: digits and lower-case letters, a letter first.
 bool IsGoodName(std::string_view name);
-
-/// The position of each text of a list: the first one of equal texts.
-std::unordered_map<std::string_view, int> IndexOf(const TextList& list);
 
 class StringLists {
  public:

@@ -20,7 +20,7 @@ namespace quilla::bench {
 
 /// The most that a task may cost: passes over the table for any of them, and plain transfers of
 /// the same bytes for those that read or write a file.
-inline constexpr double kMostPasses = 10;
+inline constexpr double kMostPasses = 5;
 inline constexpr double kMostTransfers = 5;
 
 /// Every sixteenth row has a jump, and every eighth a label.

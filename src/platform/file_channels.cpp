@@ -64,8 +64,8 @@ void FileChannels::File::ReadBlock() {
 }
 
 bool FileChannels::File::AtEnd() {
-  if (taken == read.size()) ReadBlock();
-  return taken == read.size();
+  if (!IsInBlock()) ReadBlock();
+  return !IsInBlock();
 }
 
 bool FileChannels::File::TakeIf(char c) {
@@ -75,19 +75,17 @@ bool FileChannels::File::TakeIf(char c) {
 }
 
 template <typename Find>
+std::string_view FileChannels::File::TakeFromBlock(const Find& find) {
+  std::string_view text = std::string_view(read).substr(taken);
+  text = text.substr(0, find(text));
+  taken += text.size();
+  return text;
+}
+
+template <typename Find>
 std::string FileChannels::File::TakeUntil(const Find& find) {
-  std::string text;
-  while (!AtEnd()) {
-    std::string_view ahead = read;
-    ahead.remove_prefix(taken);
-    const std::size_t end = find(ahead);
-    text += ahead.substr(0, end);
-    if (end != std::string_view::npos) {
-      taken += end;
-      break;
-    }
-    taken = read.size();
-  }
+  std::string text(TakeFromBlock(find));
+  while (!IsInBlock() && !AtEnd()) text += TakeFromBlock(find);
   return text;
 }
 

@@ -79,10 +79,14 @@ class FileChannels {
     /// Takes the next item with its quotes and its delimiter, and gives what it holds.
     std::string TakeItem();
     void ReadBlock();
+    bool IsInBlock() const { return taken < read.size(); }
     bool AtEnd();
     /// Takes the next character if it is this one.
     bool TakeIf(char c);
-    /// Takes the characters before the one that `find` finds, or all up to the end of the file.
+    /// Takes the characters before the one that `find` finds, or all up to the end of the block.
+    template <typename Find>
+    std::string_view TakeFromBlock(const Find& find);
+    /// The same, or all up to the end of the file.
     template <typename Find>
     std::string TakeUntil(const Find& find);
   };

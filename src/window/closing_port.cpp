@@ -3,8 +3,6 @@
 #include <chrono>
 #include <utility>
 
-#include "window/serial_driver.h"
-
 namespace quilla {
 namespace {
 
@@ -13,16 +11,8 @@ constexpr qint64 kMostIdleMs = 10'000;
 
 }  // namespace
 
-void HandToDriver(QSerialPort& port) {
-  qint64 before = 0;
-  do {
-    before = port.bytesToWrite();
-    if (before > 0 && DriverHasRoom(port)) port.flush();  // one piece at a time
-  } while (port.bytesToWrite() < before);
-}
-
-ClosingPort::ClosingPort(std::unique_ptr<QSerialPort> port)
-    : port_(std::move(port)), device_(port_->portName()) {
+ClosingPort::ClosingPort(std::unique_ptr<SerialLine> line, QString device)
+    : line_(std::move(line)), device_(std::move(device)) {
   since_progress_.start();
   timer_.callOnTimeout([this] { Advance(); });
   timer_.start(kTurn);
@@ -33,20 +23,20 @@ void ClosingPort::Advance() {
     if (drained_.wait_for(std::chrono::seconds(0)) == std::future_status::ready) Close();
     return;
   }
-  HandToDriver(*port_);
-  const qint64 left = port_->bytesToWrite() + BytesInDriver(*port_);
+  line_->HandToDriver();
+  const std::size_t left = line_->BytesInQueue() + line_->BytesInDriver();
   if (std::exchange(left_, left) != left) since_progress_.restart();
   if (left == 0) {
-    drained_ = std::async(std::launch::async, [port = port_.get()] { DrainDriver(*port); });
-  } else if (DeviceHasGone(*port_) || since_progress_.hasExpired(kMostIdleMs)) {
-    port_->clear(QSerialPort::Output);
+    drained_ = std::async(std::launch::async, [line = line_.get()] { line->Drain(); });
+  } else if (line_->HasGone() || since_progress_.hasExpired(kMostIdleMs)) {
+    line_->Discard();
     Close();
   }
 }
 
 void ClosingPort::Close() {
   timer_.stop();
-  port_.reset();
+  line_.reset();
 }
 
 }  // namespace quilla

@@ -3,32 +3,31 @@
 #define QUILLA_WINDOW_CLOSING_PORT_H_
 
 #include <QElapsedTimer>
-#include <QSerialPort>
+#include <QString>
 #include <QTimer>
 #include <future>
 #include <memory>
 
-namespace quilla {
+#include "window/serial_line.h"
 
-/// Hands the bytes that wait in the port to the driver, as many as that has room for.
-void HandToDriver(QSerialPort& port);
+namespace quilla {
 
 class ClosingPort {
  public:
-  /// `port` is open. It closes, in the background, when all is sent, when its device fails, or when
-  /// nothing has gone out for ten seconds.
-  explicit ClosingPort(std::unique_ptr<QSerialPort> port);
+  /// The line closes, in the background, when all is sent, when its device fails, or when nothing
+  /// has gone out for ten seconds.
+  ClosingPort(std::unique_ptr<SerialLine> line, QString device);
 
   const QString& device() const { return device_; }
-  bool is_closed() const { return port_ == nullptr; }
+  bool is_closed() const { return line_ == nullptr; }
 
  private:
   void Advance();
   void Close();
 
-  std::unique_ptr<QSerialPort> port_;
+  std::unique_ptr<SerialLine> line_;
   QString device_;
-  qint64 left_ = 0;  // bytes that are not on the line yet
+  std::size_t left_ = 0;  // bytes that are not on the line yet
   QElapsedTimer since_progress_;
   QTimer timer_;
   std::future<void> drained_;

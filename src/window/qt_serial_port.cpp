@@ -4,50 +4,18 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QHash>
 #include <algorithm>
 #include <utility>
 
 #include "platform/failure.h"
-#include "window/qt_text.h"
-#include "window/serial_driver.h"
 
 namespace quilla {
 namespace {
 
-constexpr qint64 kQueueBytes = 512;
+constexpr std::size_t kQueueBytes = 512;
 /// How long a write waits for room. A reader at full speed makes some within that; a line at 2400
 /// baud carries less than the shortest record.
 constexpr qint64 kPatienceMs = 40;
-
-/// Takes over settings such as "2400,N,8,1".
-void Apply(const std::string& settings, QSerialPort& port) {
-  static const QHash<QString, QSerialPort::Parity> kParities = {{"N", QSerialPort::NoParity},
-                                                                {"E", QSerialPort::EvenParity},
-                                                                {"O", QSerialPort::OddParity},
-                                                                {"M", QSerialPort::MarkParity},
-                                                                {"S", QSerialPort::SpaceParity}};
-  static const QHash<QString, QSerialPort::StopBits> kStopBits = {
-      {"1", QSerialPort::OneStop},
-      {"1.5", QSerialPort::OneAndHalfStop},
-      {"2", QSerialPort::TwoStop}};
-  const QStringList fields = ToQt(settings).split(',');
-  port.setBaudRate(fields.value(0).toInt());
-  port.setParity(kParities.value(fields.value(1)));
-  port.setDataBits(static_cast<QSerialPort::DataBits>(fields.value(2).toInt()));
-  port.setStopBits(kStopBits.value(fields.value(3)));
-  port.setFlowControl(QSerialPort::NoFlowControl);
-}
-
-/// Why a port did not open. The library tells a device that somebody holds, or has put a lock file
-/// on, like one that the user may not use.
-ErrorNumber ReasonOf(const QSerialPort& port) {
-  if (port.error() == QSerialPort::DeviceNotFoundError) return ErrorNumber::kPortMissing;
-  if (port.error() != QSerialPort::PermissionError) return ErrorNumber::kPortFailed;
-  const QFileInfo device(port.portName());
-  const bool forbidden = device.exists() && !(device.isReadable() && device.isWritable());
-  return forbidden ? ErrorNumber::kPortFailed : ErrorNumber::kPortInUse;
-}
 
 }  // namespace
 
@@ -85,44 +53,40 @@ void QtSerialPort::Open(int number, const std::string& settings) {
   while (IsSending(device)) turn_();
   // A handler that ran meanwhile may have been first.
   if (IsOpen()) throw Failure(ErrorNumber::kPortInUse);
-  auto port = std::make_unique<QSerialPort>(device);
-  Apply(settings, *port);
-  if (!port->open(QIODevice::ReadWrite)) throw Failure(ReasonOf(*port));
-  port->clear(QSerialPort::Input);
-  port_ = std::move(port);
+  line_ = OpenSerialLine(device, settings);
+  device_ = device;
 }
 
 void QtSerialPort::Close() {
   if (!IsOpen()) return;
-  closing_.push_back(std::make_unique<ClosingPort>(std::move(port_)));
+  closing_.push_back(std::make_unique<ClosingPort>(std::move(line_), device_));
 }
 
 void QtSerialPort::SetDtr(bool on) {
-  if (IsOpen()) port_->setDataTerminalReady(on);
+  if (IsOpen()) line_->SetDtr(on);
 }
 
 void QtSerialPort::SetRts(bool on) {
-  if (IsOpen()) port_->setRequestToSend(on);
+  if (IsOpen()) line_->SetRts(on);
 }
 
 void QtSerialPort::Write(const std::string& bytes) {
   if (!IsOpen()) throw Failure(ErrorNumber::kPortFailed);
-  port_->write(bytes.data(), static_cast<qint64>(bytes.size()));
-  HandToDriver(*port_);
+  line_->Send(bytes);
   QElapsedTimer waiting;
   waiting.start();
-  const auto is_stuck = [&] { return port_->bytesToWrite() > kQueueBytes; };
-  while (is_stuck() && !DeviceHasGone(*port_) && !waiting.hasExpired(kPatienceMs)) {
-    port_->waitForBytesWritten(1);
+  const auto is_stuck = [&] { return line_->BytesInQueue() > kQueueBytes; };
+  while (is_stuck() && !line_->HasGone() && !waiting.hasExpired(kPatienceMs)) {
+    line_->WaitForRoom();
   }
-  if (is_stuck() || DeviceHasGone(*port_)) throw Failure(ErrorNumber::kPortFailed);
+  if (is_stuck() || line_->HasGone()) throw Failure(ErrorNumber::kPortFailed);
 }
 
 std::string QtSerialPort::Read() {
   if (!IsOpen()) throw Failure(ErrorNumber::kPortFailed);
-  const QByteArray bytes = port_->readAll();
-  if (bytes.isEmpty() && DeviceHasGone(*port_)) throw Failure(ErrorNumber::kPortFailed);
-  return bytes.toStdString();
+  std::string bytes = line_->TakeArrived();
+  if (bytes.empty() && line_->HasGone()) throw Failure(ErrorNumber::kPortFailed);
+  return bytes;
 }
 
 }  // namespace quilla

@@ -2,7 +2,6 @@
 #ifndef QUILLA_WINDOW_QT_SERIAL_PORT_H_
 #define QUILLA_WINDOW_QT_SERIAL_PORT_H_
 
-#include <QSerialPort>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -12,6 +11,7 @@
 
 #include "platform/serial_port.h"
 #include "window/closing_port.h"
+#include "window/serial_line.h"
 
 namespace quilla {
 
@@ -30,7 +30,7 @@ class QtSerialPort : public SerialPort {
 
   void Open(int number, const std::string& settings) override;
   void Close() override;
-  bool IsOpen() const override { return port_ != nullptr; }
+  bool IsOpen() const override { return line_ != nullptr; }
   void SetDtr(bool on) override;
   void SetRts(bool on) override;
   void Write(const std::string& bytes) override;
@@ -44,7 +44,8 @@ class QtSerialPort : public SerialPort {
 
   std::function<void()> turn_;
   QStringList prefixes_;
-  std::unique_ptr<QSerialPort> port_;
+  std::unique_ptr<SerialLine> line_;
+  QString device_;  // of the open line
   std::vector<std::unique_ptr<ClosingPort>> closing_;
 };
 

@@ -69,7 +69,9 @@ GuideWindow& Help::guide() {
   return *guide_;
 }
 
+// Over the splash there is no panel yet, and no task to tell about.
 void Help::Open(const Form& form, QWidget& window) {
+  if (quilla_.panel() == nullptr) return;
   guide().Open(window, SectionOf(form, quilla_.panel()->session().CurrentPanelState));
 }
 

@@ -254,6 +254,8 @@ std::string FaultOfWalk(unsigned seed, const robot::HandsFactory& make_hands,
   return fault;
 }
 
+std::string BrokenRule(const Session& session) { return Rules(session).Broken(); }
+
 void TellScriptOnDeath() {
   for (const int signal : {SIGABRT, SIGINT, SIGTERM}) {
     std::signal(signal, [](int caught) {

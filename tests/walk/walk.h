@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 
+#include "program/session.h"
 #include "robot/model_hands.h"
 
 namespace quilla::walk {
@@ -20,6 +21,9 @@ std::string FaultOfWalk(
 /// From now on a program that dies in the middle of a walk, or is interrupted because a walk does
 /// not end, prints the seed and the script to standard error.
 void TellScriptOnDeath();
+
+/// The rule that is broken in a session; empty if all hold.
+std::string BrokenRule(const Session& session);
 
 }  // namespace quilla::walk
 

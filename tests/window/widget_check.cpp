@@ -36,7 +36,8 @@ void CheckGrid(Check& check, const Grid& grid, const QWidget& widget) {
   const QAbstractItemModel& model = *view.model();
   check.Same("number of rows", model.rowCount(), grid.Rows());
   check.Same("number of row places", view.verticalHeader()->count(), grid.Rows());
-  for (int row = 0; row < std::min(model.rowCount(), grid.Rows()); ++row) {
+  const int rows = std::min(model.rowCount(), grid.Rows());
+  for (int row = 0; row < rows; row += 1 + rows / 1000) {  // not each one of a whole memory
     for (int column = 0; column < grid.Cols(); ++column) {
       check.Same("cell", model.index(row, column).data().toString(),
                  ToQt(grid.TextMatrix(row, column)));

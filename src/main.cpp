@@ -6,6 +6,7 @@
 #include "window/help.h"
 #include "window/qt_outside.h"
 #include "window/session_end.h"
+#include "window/start.h"
 
 int main(int argc, char** argv) {
   quilla::LetLongFilesFail();
@@ -24,7 +25,7 @@ int main(int argc, char** argv) {
   QObject::connect(
       &help, &quilla::Help::DemonstrationChosen, &application,
       [&show_me](const QString& name) { show_me.Begin(name); }, Qt::QueuedConnection);
-  quilla.Start();
+  quilla::Start(quilla, outside);
   const int result = QApplication::exec();
   outside.event_loop().DestroyWindows();
   return result;

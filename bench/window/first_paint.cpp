@@ -1,4 +1,4 @@
-// Opens a window and ends as soon as it has been painted:
+// Opens a window and ends the process as soon as it has been painted:
 //   quilla-first-paint splash|panel|empty
 // where `splash` and `panel` are windows of the program from its own start, and `empty` is a main
 // window of Qt with nothing in it.
@@ -8,23 +8,28 @@
 #include <QString>
 #include <QTimer>
 #include <QWidget>
+#include <cstdlib>
 #include <utility>
 
 #include "panel/quilla.h"
 #include "window/qt_outside.h"
+#include "window/start.h"
 
 namespace quilla {
 namespace {
 
-/// Ends the program behind the first paint of the window of that name.
+/// Ends the process behind the first paint of the window of that name. What the program does at its
+/// end, such as to ask whether to save, is no part of its start.
 class FirstPaint : public QObject {
  public:
   explicit FirstPaint(QString window) : window_(std::move(window)) {}
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::Paint || !watched->isWidgetType()) return false;
-    if (static_cast<const QWidget*>(watched)->window()->objectName() == window_) {
-      QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    const QString painted = static_cast<const QWidget*>(watched)->window()->objectName();
+    // On a busy machine the splash may have gone before it was painted.
+    if (painted == window_ || painted == kProgrammingPanel) {
+      QTimer::singleShot(0, [] { std::_Exit(EXIT_SUCCESS); });
     }
     return false;
   }
@@ -43,10 +48,8 @@ int ShowEmpty() {
 int ShowProgram() {
   QtOutside outside;
   Quilla program(outside.ports());
-  program.Start();
-  const int result = QApplication::exec();
-  outside.event_loop().DestroyWindows();
-  return result;
+  Start(program, outside);
+  return QApplication::exec();
 }
 
 }  // namespace

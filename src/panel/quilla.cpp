@@ -11,8 +11,12 @@ void Quilla::Start() {
   OpenTimer_.Enable();
 }
 
+void Quilla::MakePanel() {
+  if (panel_ == nullptr) panel_ = std::make_unique<ProgrammingPanel>(outside_);
+}
+
 void Quilla::OpenTimer_Timer() {
-  panel_ = std::make_unique<ProgrammingPanel>(outside_);
+  MakePanel();
   outside_.event_loop.Show(panel_->form());
   outside_.event_loop.Unload(OpenForm_);
 }

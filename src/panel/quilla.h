@@ -22,7 +22,11 @@ class Quilla {
   /// Shows the splash; its timer does the rest.
   void Start();
 
-  /// The main panel; null until the splash has made it.
+  /// Makes the main panel ahead of its time, for whoever has nothing else to do while the splash
+  /// stands; nothing if it is made.
+  void MakePanel();
+
+  /// The main panel; null until it has been made.
   ProgrammingPanel* panel() { return panel_.get(); }
   /// All windows, open or not.
   std::vector<Form*> Forms();

@@ -21,12 +21,17 @@ QWidget* QtEventLoop::WindowOf(const Form& form) const {
   return found == windows_.end() ? nullptr : found->second.get();
 }
 
-void QtEventLoop::OpenWindow(Form& form) {
+QWidget& QtEventLoop::MadeWindowOf(Form& form) {
   std::unique_ptr<QWidget>& window = windows_[&form];
   if (window == nullptr) {
     window = make_window_(form);
     if (on_made) on_made(form, *window);
   }
+  return *window;
+}
+
+void QtEventLoop::OpenWindow(Form& form) {
+  QWidget* const window = &MadeWindowOf(form);
   const QWidget* const over = window->isModal()       ? QApplication::activeWindow()
                               : form.owner == nullptr ? nullptr
                                                       : WindowOf(*form.owner);

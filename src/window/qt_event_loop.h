@@ -1,5 +1,5 @@
-// Windows and their event loop. A window is made when its form is first shown, and is kept,
-// hidden, while the form is closed.
+// Windows and their event loop. A window is made when its form is first shown, or ahead of that,
+// and is kept, hidden, while the form is closed.
 #ifndef QUILLA_WINDOW_QT_EVENT_LOOP_H_
 #define QUILLA_WINDOW_QT_EVENT_LOOP_H_
 
@@ -29,7 +29,9 @@ class QtEventLoop : public EventLoop {
 
   /// Takes all windows down, to be done before the forms go.
   void DestroyWindows() { windows_.clear(); }
-  /// The window of a form; null while it was never shown.
+  /// The window of a form, made if need be, ahead of its being shown.
+  QWidget& MadeWindowOf(Form& form);
+  /// The window of a form; null while it was never made.
   QWidget* WindowOf(const Form& form) const;
 
   /// Waiting for anything once the program has ended leaves the handler that waits.

@@ -3,6 +3,7 @@
 #define QUILLA_WINDOW_QT_OUTSIDE_H_
 
 #include <QApplication>
+#include <QTimer>
 
 #include "platform/outside.h"
 #include "system/disk_storage.h"
@@ -20,7 +21,10 @@ namespace quilla {
 
 class QtOutside {
  public:
-  QtOutside() { QApplication::setWindowIcon(ProgramIcon()); }
+  /// The icon is drawn while the splash stands, which has none.
+  QtOutside() {
+    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(ProgramIcon()); });
+  }
 
   Outside& ports() { return ports_; }
   Gate& gate() { return gate_; }

@@ -14,6 +14,10 @@ class SplashWindow : public QWidget {
  public:
   SplashWindow(Gate& gate, EventLoop& event_loop, Form& form);
 
+ Q_SIGNALS:
+  /// The splash has been painted.
+  void Painted();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

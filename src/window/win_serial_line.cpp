@@ -153,7 +153,9 @@ class WinSerialLine : public SerialLine {
     return std::max<std::size_t>(BytesUnderWay(), tells ? status.cbOutQue : 0);
   }
 
-  void Drain() override { FlushFileBuffers(device()); }
+  // A write is over when the driver has handed its bytes on, and closing waits for the chip.
+  // FlushFileBuffers may never come back.
+  void Drain() override {}
 
   void Discard() override {
     queue_.clear();

@@ -69,9 +69,10 @@ GuideWindow& Help::guide() {
   return *guide_;
 }
 
-// Over the splash there is no panel yet, and no task to tell about.
+// While the splash stands the panel is not made or not shown yet, and there is no task to tell
+// about.
 void Help::Open(const Form& form, QWidget& window) {
-  if (quilla_.panel() == nullptr) return;
+  if (quilla_.panel() == nullptr || !quilla_.panel()->form().visible()) return;
   guide().Open(window, SectionOf(form, quilla_.panel()->session().CurrentPanelState));
 }
 

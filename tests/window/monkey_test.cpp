@@ -19,7 +19,7 @@
 namespace quilla {
 namespace {
 
-constexpr std::u16string_view kLetters = u"0123456789ABCDEFabcdHLMSWXZxyz.,+-\"& \u00e4\u7d42";
+constexpr std::u16string_view kLetters = u"abcdAFHLM0123.+-,\"& \u00e4\u7d42";
 constexpr const char* kFiles[] = {"a.baf", "sum.baf", "stack.baf", "sum.hex", "c.pdf", "no/b.hex"};
 
 class Monkey : public QObject {
@@ -30,6 +30,7 @@ class Monkey : public QObject {
     connect(&outside_.gate(), &Gate::Left, this, [this] { settled_ = true; });
     outside_.event_loop().on_made = [this](auto& form, auto& window) { help_.AddTo(form, window); };
     quilla_.Start();
+    QTest::keyClick(outside_.event_loop().WindowOf(*quilla_.Forms()[0]), Qt::Key_F1);
     Act();
     QApplication::exec();
     outside_.event_loop().DestroyWindows();
@@ -64,8 +65,10 @@ class Monkey : public QObject {
     QTimer::singleShot(quilla_.panel() == nullptr ? 1 : 0, this, &Monkey::Act);
     QWidget* top = QApplication::activePopupWidget();
     if (top == nullptr) top = QApplication::activeModalWidget();
+    const bool is_any = top == nullptr;
     for (const QWindow* each : QGuiApplication::topLevelWindows()) {
-      if (top == nullptr && each->isVisible() && Below(2) > 0) top = QWidget::find(each->winId());
+      const bool is_next = top == nullptr || Below(3) == 0;
+      if (is_any && is_next && each->isVisible()) top = QWidget::find(each->winId());
     }
     const int dice = Below(1000);
     if (top == nullptr) return;
@@ -83,7 +86,8 @@ class Monkey : public QObject {
   void PressKey(QWidget& top) {
     const QChar letter = kLetters[Below(kLetters.size())];
     const bool is_letter = Below(2) > 0;
-    const int key = is_letter ? letter.toUpper().unicode() : Qt::Key_Escape + Below(0x3a);
+    const int key =
+        is_letter ? letter.toUpper().unicode() : Qt::Key_Escape + Below(Below(2) > 0 ? 6 : 0x3a);
     const Qt::KeyboardModifiers with(Below(4) > 0 ? 0 : Qt::ShiftModifier << Below(3));
     const QString text = is_letter && with != Qt::ControlModifier ? QString(letter) : QString();
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -98,7 +102,10 @@ class Monkey : public QObject {
     const bool moves = Below(5) == 0;
     QWidget& window = held ? *held_in_ : top;
     auto parts = window.findChildren<QWidget*>();
-    parts.removeIf([](const QWidget* part) { return !part->isVisible(); });
+    parts.removeIf([this](const QWidget* part) {
+      const bool is_live = part->isEnabled() && part->focusPolicy() != Qt::NoFocus;
+      return !part->isVisible() || (!is_live && Below(20) > 0);
+    });
     parts << &window;
     const QWidget& part = *parts[Below(parts.size())];
     const QPoint place(Below(part.width() + 1u), Below(part.height() + 1u));

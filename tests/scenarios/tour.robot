@@ -6,17 +6,13 @@
 #          32 50 80   STA sum
 #   stop   C3 08 80   JMP stop
 # Eleven bytes, 0Bh: the record is ":0B" "8000" "00", the bytes, and the checksum.
-# picture 01-new-file
 > hover ProgrammingPanel
-# picture 02-label
 > row "MVI A,first" "MVI B,second" "ADD B" "STA sum" ; click INST 37 ; type LabelText stop
 > hover ProgrammingPanel
 # The label stands on the jump itself.
-# picture 03-place-label
 > enter ; click PlaceLabelTool ; cell Table1 5 0 ; click ExistingPlaceOption
 > pick PlaceCombo 1 ; hover ProgrammingPanel
 # The numbers behind the names.
-# picture 04-equivalents
 > enter ; click PlaceDoneButton ; click EqtOption ; cell RenumberDialog.LabelTable 1 0
 open RenumberDialog
 > key RenumberDialog.EqtAcceptButton 8050 ; hover RenumberDialog
@@ -24,17 +20,14 @@ open RenumberDialog
 > key RenumberDialog.XXAcceptButton 05 ; enter ; cell RenumberDialog.VariableTable 2 0
 > key RenumberDialog.XXAcceptButton 07 ; enter ; click RenumberDialog.DoneButton
 closed RenumberDialog
-# picture 05-assembled
 > path adder.hex ; click AssembleFile ; settle ; list HexList ; hover ProgrammingPanel
 box information "Unused strings have been deleted." ok -> ok
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"
 HexList 0 ":0B8000003E05060780325080C3088058"
 HexList 1 ":00000001FF"
 # The places that a label could be replaced in, one of them selected.
-# picture 06-replace
 > click ReplaceLabel ; cell Table1 5 2 ; hover ProgrammingPanel
 # The program in the simulator, three instructions on.
-# picture 07-simulator
 > escape ; click SimulationView ; settle ; key WatchWindowDialog.AcceptButton 8000
 open WatchWindowDialog
 > click WatchWindowDialog.AcceptButton ; click WatchWindowDialog.ExecuteButton
@@ -43,7 +36,6 @@ open WatchWindowDialog
 WatchWindowDialog.InstructionTable 1 "" "8005" "STA   8050h" "32   50   80"
 closed WatchWindowDialog
 # The bytes of the file back in a table.
-# picture 08-disassembler
 > answer no ; path adder.hex ; click DisassembleFile ; click DataDialog.DataType 1
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "adder.hex"

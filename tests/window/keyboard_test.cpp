@@ -1,6 +1,5 @@
 // The panel worked with the keyboard alone, and where the focus goes.
 #include <QAccessible>
-#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -14,42 +13,61 @@
 namespace quilla {
 namespace {
 
-class KeyboardTest : public PanelTest {
- protected:
-  void StartOrigin() {
-    window().findChild<QAction*>("NewOrigin")->trigger();
-    outside_.clock.PassAll();
-  }
-  /// Enters a row with a label and one with a variable.
-  void EnterStrings() {
-    Click("INST 37");
-    Type("loop");
-    Press(Qt::Key_Return);
-    Click("INST 1");
-    Type("aone");
-    Press(Qt::Key_Return);
-  }
-};
+class KeyboardTest : public PanelTest {};
 
-TEST_F(KeyboardTest, EntersAnInstruction) {
-  Type("MVI");
-  EXPECT_EQ(FocusName(), "INST 1");
-  Press(Qt::Key_Space);
-  EXPECT_EQ(FocusName(), "RegisterBox");
-  Type("p");  // not a register of MVI
-  EXPECT_EQ(state(), PanelState::kMviRegister);
-  Type("a");
-  EXPECT_EQ(FocusName(), "XXText");
-  Type("one");
-  Press(Qt::Key_Return);
-  EXPECT_EQ(Cell(1, kMnemonicColumn), "MVI  A,   one");
-  EXPECT_EQ(state(), PanelState::kReady);
-  EXPECT_EQ(FocusName(), "INST 1") << "the key used last, so that the next one is near";
+TEST_F(KeyboardTest, EveryTaskIsDoneWithTheKeysAlone) {
+  struct Step {
+    const char* words;
+    const char* focus;
+    const char* row = nullptr;  // that over the cursor, where it differs from the last step's
+  };
+  const Step steps[] = {
+      {"MVI", "INST 1", "Origin|8000||"},
+      {"Space p", "RegisterBox"},  // not a register of MVI
+      {"a", "XXText"},
+      {"one Return", "INST 1", "||MVI  A,   one|3E   XX"},  // the next key is near
+      {"NOP Return", "INST 78", "||NOP|00"},
+      {"RST Return", "NumberFocusButton"},
+      {"87", "INST 67", "||RST 7|FF"},
+      {"MOV Return Ctrl+M", "RegisterBox"},  // a shortcut whose entry is disabled
+      {"Esc", "INST 0"},
+      {"ADI Return", "XXText"},
+      {"Esc", "INST 15"},
+      {"RST Return Esc", "INST 67"},
+      {"J", "INST 37"},
+      {"J", "INST 40"},
+      {"Return Esc", "INST 40"},
+      {"NewOrigin", "NumberAcceptButton"},
+      {"Table1 9fg Table1 Enter", "Table1", "Origin|009F||"},
+      {"Ctrl+M 3F Return", "DataAcceptButton", "||DFB|3F"},
+      {"Ctrl+M JMP Return", "LabelText"},
+      {"loop Return", "INST 37", "||JMP  loop|C3   XX   XX"},
+      {"Table1 ReplaceLabel", "ReplaceText"},
+      {"Esc ReplaceVariable", "XXText"},
+      {"Esc FindVariable", "XXCombo"},
+      {"Esc INST_1 DeleteLabels", "Table1"},  // there is no box
+      {"Esc PlaceLabelTool", "PlaceText"},
+      {"NewPlaceOption Down", "PlaceCombo"},  // the list of the option chosen
+      {"Table1 Up Space Return Esc", "INST 1", "loop||JMP  loop|C3   XX   XX"},
+      {"FindLabel FindDoneButton Return", "INST 1"},
+  };
+  std::string row;
+  for (const Step& step : steps) {
+    if (step.row != nullptr) row = step.row;
+    Play(step.words);
+    outside_.clock.PassAll();
+    EXPECT_EQ(FocusName(), step.focus) << step.words;
+    EXPECT_EQ(LastRow(), row) << step.words;
+  }
+  EXPECT_EQ(session().CurrentPanelState, PanelState::kReady);
+  EXPECT_EQ(Cell(1, kOpcodeColumn), "3E   XX");
+  Play("FindLabel Alt+F");  // an access key of the file menu too
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  EXPECT_EQ(session().Table1.BackColor(session().CurrentRow - 1, kMnemonicColumn), kFoundColor);
 }
 
 TEST_F(KeyboardTest, KeysInTheMenuBarStayThere) {
-  Find("INST 5").setFocus();
-  Press(Qt::Key_E, Qt::AltModifier);
+  Play("INST_5 Alt+E");
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
   EXPECT_EQ(FocusName(), "INST 5") << "back where it was";
@@ -61,58 +79,21 @@ TEST_F(KeyboardTest, KeysInTheMenuBarStayThere) {
   }
 }
 
-TEST_F(KeyboardTest, ACommandLeavesTheFocusInTheBoxThatItOpens) {
-  EnterStrings();
-  const auto focus_after = [this](const char* from, const char* command) {
-    Find(from).setFocus();
-    window().findChild<QAction*>(command)->trigger();
-    EXPECT_NE(state(), PanelState::kReady) << command;
-    const std::string focus = FocusName();
-    Press(Qt::Key_Escape);
-    return focus;
-  };
-  EXPECT_NE(focus_after("Table1", "ReplaceLabel"), "Table1");
-  EXPECT_NE(focus_after("Table1", "FindVariable"), "Table1");
-  EXPECT_EQ(focus_after("INST 1", "DeleteLabels"), "Table1") << "there is no box";
-}
-
 TEST_F(KeyboardTest, TabLandsOnTheCursorAndShiftSelectsItsColumn) {
   for (int i = 0; i < 3; ++i) Click("INST 78");
   auto& table = Find<GridView>("Table1");
   const auto land = [&] {
-    Find("INST 78").setFocus();
-    Press(Qt::Key_Tab);
+    Play("INST_78 Tab");
     EXPECT_EQ(FocusName(), "Table1") << "one Tab leaves the keys";
     EXPECT_EQ(table.currentIndex(), table.model()->index(4, kMnemonicColumn));
   };
   land();
-  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Left, Qt::Key_Left}) Press(key);
-  QTest::keyPress(&table, Qt::Key_Up, Qt::ShiftModifier);
-  QTest::keyRelease(&table, Qt::Key_Shift);
+  Play("Up Up Left Left Shift+Up");
   EXPECT_EQ(session().SelectionTop, 1);
   EXPECT_EQ(session().SelectionBottom, 2);
   land();
-  Press(Qt::Key_Backtab);
+  Play("Shift+Tab");
   EXPECT_EQ(FocusName(), "INST 78");
-}
-
-TEST_F(KeyboardTest, EveryBoxIsWorkedWithTheKeysAlone) {
-  EnterStrings();
-  for (const auto& [command, focus] :
-       {std::pair("ReplaceLabel", "ReplaceText"), std::pair("ReplaceVariable", "XXText"),
-        std::pair("FindVariable", "XXCombo"), std::pair("PlaceLabelTool", "PlaceText")}) {
-    Press(Qt::Key_Escape);
-    window().findChild<QAction*>(command)->trigger();
-    EXPECT_EQ(FocusName(), focus);
-  }
-  Find("NewPlaceOption").setFocus();
-  Press(Qt::Key_Down);
-  EXPECT_EQ(FocusName(), "PlaceCombo") << "the list of the option chosen";
-  Find("Table1").setFocus();
-  Press(Qt::Key_Up);
-  Press(Qt::Key_Space);
-  Press(Qt::Key_Return);
-  EXPECT_EQ(Cell(2, kLabelColumn), "loop");
 }
 
 TEST_F(KeyboardTest, SpaceHoldsAnInterruptKey) {
@@ -126,8 +107,8 @@ TEST_F(KeyboardTest, SpaceHoldsAnInterruptKey) {
   EXPECT_EQ(key->text(), "0");
   for (auto* const table : simulator.findChildren<GridView*>()) {
     table->setFocus();
-    for (const Qt::Key away : {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Home}) {
-      QTest::keyClick(table, away, Qt::ControlModifier);
+    for (const char* away : {"Ctrl+Up", "Ctrl+PgUp", "Ctrl+Home"}) {
+      Play(simulator, away);
       EXPECT_FALSE(table->visualRect(table->currentIndex()).isEmpty()) << "a hidden row";
     }
   }
@@ -160,7 +141,7 @@ TEST_F(KeyboardTest, ScreenReadersAreTold) {
 }
 
 TEST_F(KeyboardTest, HeldKeysPressNothing) {
-  Type("NOP");
+  Play("NOP");
   for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
     QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_Space ? " " : "\r", true);
     for (int i = 0; i < 3; ++i) QApplication::sendEvent(window().focusWidget(), &held);
@@ -184,11 +165,10 @@ TEST_F(KeyboardTest, EveryNameTypedEndsOnItsKey) {
   for (int i = 0; i < kInstructionKeyCount; ++i) {
     const QString key = "INST " + QString::number(i);
     for (int start = 0; start < kInstructionKeyCount; ++start) {
-      Find("Table1").setFocus();
-      Find("INST " + QString::number(start)).setFocus();
+      Play("Table1 INST_" + QString::number(start));
       for (const QChar letter : Find<QPushButton>(key).text()) {
-        Press(Qt::Key_Shift);  // as for a capital letter
-        Type(letter);
+        QTest::keyClick(window().focusWidget(), Qt::Key_Shift);  // as for a capital letter
+        QTest::keyClick(window().focusWidget(), letter.toLatin1());
       }
       ASSERT_EQ(FocusName(), key.toStdString()) << "from " << start;
     }
@@ -198,139 +178,74 @@ TEST_F(KeyboardTest, EveryNameTypedEndsOnItsKey) {
 TEST_F(KeyboardTest, EnterStepsTheSimulatorBehindAnAddress) {
   Click("INST 78");
   QWidget& simulator = OpenSimulator();
-  const auto press = [&](int key, const QString& text = {}) {
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(simulator.focusWidget(), &event);
-  };
   const auto text_of = [&](const char* label) {
     return simulator.findChild<QLabel*>(label)->text();
   };
-  for (const char* digit : {"0", "0", "1", "0"}) press(0, digit);
+  Play(simulator, "0010");
   EXPECT_EQ(text_of("AddrLbl"), "0010");
-  press(Qt::Key_Return);
+  Play(simulator, "Return");
   EXPECT_EQ(simulator.focusWidget()->objectName(), "ExecuteButton");
-  press(0, "5");
-  for (int i = 0; i < 3; ++i) press(Qt::Key_Return);
-  EXPECT_EQ(text_of("AddrLbl"), "0010");
+  Play(simulator, "5 Return Return Return");
   const auto* const row = simulator.findChild<GridView*>("InstructionTable")->model();
   EXPECT_EQ(row->index(1, 1).data(), "0013");
   auto* const memory = simulator.findChild<GridView*>("MemoryTable");
   QTest::mouseClick(memory->viewport(), Qt::LeftButton);
-  for (const char* digit : {"8", "0", "0", "a"}) press(0, digit);
+  Play(simulator, "800a");
   EXPECT_EQ(memory->currentIndex().row(), 0x800B);
   EXPECT_EQ(text_of("AddrLbl"), "0010");
 }
 
 TEST_F(KeyboardTest, AnAcceptedEquivalentIsFollowedByTheNextName) {
-  EnterStrings();
+  Play("JMP Return loop Return");
   outside_.event_loop.play_command = [&] {
     Form& form = *quilla_.panel()->Dialogs().front();
     QWidget& dialog = *hands_.shown().at(&form).window;
-    const auto press = [&](Qt::Key key) { QTest::keyClick(dialog.focusWidget(), key); };
     EXPECT_EQ(dialog.focusWidget()->objectName(), "LabelTable");
-    press(Qt::Key_Space);
+    Play(dialog, "Space");
     outside_.clock.PassAll();
-    press(Qt::Key_7);
-    press(Qt::Key_Return);
+    Play(dialog, "7 Return");
     EXPECT_EQ(dialog.focusWidget()->objectName(), "LabelTable");
     session().outside.event_loop.Unload(form);
     return true;
   };
-  window().findChild<QAction*>("EqtOption")->trigger();
+  Play("EqtOption");
 }
 
-TEST_F(KeyboardTest, EnterPressesThePushButtonThatShowsTheFocus) {
-  EnterStrings();
-  window().findChild<QAction*>("FindLabel")->trigger();
-  Find("FindDoneButton").setFocus();
-  Press(Qt::Key_Return);
-  EXPECT_EQ(state(), PanelState::kReady);
-  EXPECT_NE(session().Table1.BackColor(1, kMnemonicColumn), kFoundColor);
-}
-
-TEST_F(KeyboardTest, EnterPressesTheFocusedKeyWhereThereIsNoDefault) {
-  Type("NOP");
-  Press(Qt::Key_Return);
-  EXPECT_EQ(Cell(1, kOpcodeColumn), "00");
-}
-
-TEST_F(KeyboardTest, EnterPressesTheDefaultButtonWhereverTheFocusIs) {
-  StartOrigin();
-  Type("9fg");
-  EXPECT_EQ(Find<QLabel>("NumberLabel").text(), "009F");
-  Find("Table1").setFocus();
-  Press(Qt::Key_Enter);
-  EXPECT_EQ(Cell(1, kAddressColumn), "009F");
-  EXPECT_EQ(state(), PanelState::kReady);
-}
-
-TEST_F(KeyboardTest, DigitsReachTheNumberFromAnywhere) {
-  StartOrigin();
-  Find("Table1").setFocus();
-  Type("1");
-  EXPECT_EQ(Find<QLabel>("NumberLabel").text(), "0001");
-}
-
-TEST_F(KeyboardTest, DigitsGoToARestartThoughNothingCanBeAccepted) {
-  Click("INST 67");
-  EXPECT_EQ(FocusName(), "NumberFocusButton");
-  Type("87");
-  EXPECT_EQ(Cell(1, kMnemonicColumn), "RST 7");
-}
-
-TEST_F(KeyboardTest, EscapeLeadsBackAndGivesTheFocusToTheKeyUsedLast) {
-  struct Case {
-    const char* key;
-    const char* focus;
+TEST_F(KeyboardTest, RowsOfBytesAreMarkedWithTheKeys) {
+  outside_.file_dialogs.Queue(QUILLA_SOURCE_DIR "/tests/scenarios/files/top.hex");
+  std::string marks;
+  outside_.event_loop.play_command = [&] {
+    Form& form = *quilla_.panel()->Dialogs().back();
+    const auto& model = dynamic_cast<Grid&>(*form.Find("DataTable"));
+    QWidget& dialog = *hands_.shown().at(&form).window;
+    Play(dialog, "DataTable Alt+M");
+    for (const Qt::Key arrow : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up}) {
+      QTest::keyPress(dialog.focusWidget(), arrow, Qt::ShiftModifier);
+    }
+    EXPECT_EQ(model.TextMatrix(1, 2), "Unwanted") << "nothing is marked until Shift is let go";
+    QTest::keyRelease(dialog.focusWidget(), Qt::Key_Shift);
+    Play(dialog, "Alt+D Ctrl+End Space");
+    QTest::keyPress(dialog.focusWidget(), Qt::Key_Up, Qt::ShiftModifier);
+    Play(dialog, "Tab");  // given up before Shift is let go
+    QTest::keyRelease(dialog.focusWidget(), Qt::Key_Shift);
+    Play(dialog, "Tab");
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "DoneButton");
+    for (int row = 1; row < model.Rows(); ++row) marks += model.TextMatrix(row, 2)[0];
+    dynamic_cast<Button&>(*form.Find("CancelButton")).Click();
+    return true;
   };
-  for (const Case& each : {Case{"INST 0", "RegisterBox"}, Case{"INST 15", "XXText"},
-                           Case{"INST 37", "LabelText"}, Case{"INST 67", "NumberFocusButton"}}) {
-    Click(each.key);
-    EXPECT_EQ(FocusName(), each.focus);
-    Press(Qt::Key_Escape);
-    EXPECT_EQ(state(), PanelState::kReady) << each.key;
-    EXPECT_EQ(FocusName(), each.key);
-  }
-}
-
-TEST_F(KeyboardTest, DataBytesNeedTwoDigitsAndEnter) {
-  Press(Qt::Key_M, Qt::ControlModifier);
-  for (const char* byte : {"3F", "c9"}) {
-    EXPECT_EQ(FocusName(), "DataAcceptButton");
-    Type(byte);
-    Press(Qt::Key_Return);
-  }
-  EXPECT_EQ(Cell(1, kOpcodeColumn), "3F");
-  EXPECT_EQ(Cell(2, kOpcodeColumn), "C9");
+  session().menu.DisassembleFile.Click();
+  EXPECT_EQ(marks, "MMMUUD");
 }
 
 TEST_F(KeyboardTest, CommentsAreTypedIntoTheTable) {
-  Press(Qt::Key_F4);
+  Play("F4");
   QTest::mouseClick(Find<GridView>("Table1").viewport(), Qt::LeftButton, {}, {800, 30});
   EXPECT_EQ(FocusName(), "CommentsTxt");
-  Type("5 > 4\"");
-  Press(Qt::Key_D, Qt::AltModifier);  // of a button that is disabled
+  Play("5 Space > Space 4 \" Alt+D");  // the key of a button that is disabled
   EXPECT_EQ(Cell(1, kCommentColumn), "5 > 4");
-  EXPECT_EQ(Find<QLineEdit>("CommentsTxt").text(), "5 > 4");
-  Find<QLineEdit>("CommentsTxt").setCursorPosition(1);
-  Type("\"0");
-  EXPECT_EQ(Find<QLineEdit>("CommentsTxt").text(), "50 > 4") << "a double quote goes at once";
-}
-
-TEST_F(KeyboardTest, ShortcutsAreDeadWhileTheirEntryIsDisabled) {
-  Click("INST 0");
-  Press(Qt::Key_M, Qt::ControlModifier);
-  EXPECT_EQ(state(), PanelState::kMovDestination);
-}
-
-TEST_F(KeyboardTest, AnAccessKeyIsTheButtonsWhileTheButtonIsOnView) {
-  Click("INST 37");
-  Type("loop");
-  Press(Qt::Key_Return);
-  window().findChild<QAction*>("FindLabel")->trigger();
-  Press(Qt::Key_F, Qt::AltModifier);  // that of the file menu too
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-  EXPECT_EQ(session().Table1.BackColor(1, kMnemonicColumn), kFoundColor);
+  Play("Home Right \" 0");  // a double quote goes at once
+  EXPECT_EQ(Find<QLineEdit>("CommentsTxt").text(), "50 > 4");
 }
 
 TEST_F(KeyboardTest, ArrowsReachEveryInstructionKey) {
@@ -339,24 +254,13 @@ TEST_F(KeyboardTest, ArrowsReachEveryInstructionKey) {
   while (!waiting.empty()) {
     const QString from = QString::fromStdString(waiting.back());
     waiting.pop_back();
-    for (const Qt::Key arrow : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+    for (const char* arrow : {"Left", "Right", "Up", "Down"}) {
       Find(from).setFocus();
-      Press(arrow);
+      Play(arrow);
       if (reached.insert(FocusName()).second) waiting.push_back(FocusName());
     }
   }
   EXPECT_EQ(reached.size(), 80U);
-}
-
-TEST_F(KeyboardTest, TheSameLetterGoesOnToTheNextKeyWithIt) {
-  std::set<std::string> found;
-  for (int i = 0; i < 5; ++i) {
-    Type("J");
-    found.insert(FocusName());
-  }
-  EXPECT_EQ(found.size(), 5U);
-  Type("Q");
-  EXPECT_TRUE(found.contains(FocusName()));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QToolTip>
 #include <QWheelEvent>
 #include <QWindow>
@@ -67,12 +68,12 @@ TEST_P(LayoutTest, EveryBoxIsWholeAndNothingJumps) {
 
 TEST_P(LayoutTest, ColumnsHoldTheirUsualTexts) {
   const auto& table = Find<GridView>("Table1");
-  const QFontMetrics metrics(table.font());
   constexpr int kMargins = 10;
-  EXPECT_GE(table.columnWidth(0), metrics.horizontalAdvance("Origin") + kMargins);
-  EXPECT_GE(table.columnWidth(1), metrics.horizontalAdvance("8000") + kMargins);
-  EXPECT_GE(table.columnWidth(2), metrics.horizontalAdvance("LXI  SP,  number") + kMargins);
-  EXPECT_GE(table.columnWidth(3), metrics.horizontalAdvance("C3   XX   XX") + kMargins);
+  int column = 0;
+  for (const char* text : {"Origin", "8000", "LXI  SP,  number", "C3   XX   XX"}) {
+    const int width = QFontMetrics(table.font()).horizontalAdvance(text);
+    EXPECT_GE(table.columnWidth(column++), width + kMargins) << text;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(FontPercent, LayoutTest, testing::Values(100, 150));
@@ -83,7 +84,7 @@ TEST_P(LayoutTest, ZoomMakesTablesAndKeysLargerInAWindowOfTheSameSize) {
   const auto before = sizes();
   const int key = Find("INST 0").fontMetrics().height();
   EXPECT_GE(Find("INST 0").height(), 24);
-  for (int i = 0; i < 9; ++i) Press(Qt::Key_Plus, Qt::ControlModifier);
+  for (int i = 0; i < 9; ++i) Play("Ctrl++");
   ExpectAllWhole("zoomed");
   EXPECT_GT(std::get<0>(sizes()), std::get<0>(before) * 2);
   EXPECT_GT(std::get<1>(sizes()), std::get<1>(before) * 2);
@@ -93,7 +94,7 @@ TEST_P(LayoutTest, ZoomMakesTablesAndKeysLargerInAWindowOfTheSameSize) {
   const auto largest = sizes();
   QApplication::sendEvent(table.viewport(), &wheel);
   EXPECT_LT(sizes(), largest);
-  Press(Qt::Key_0, Qt::ControlModifier);
+  Play("Ctrl+0");
   EXPECT_EQ(sizes(), before);
 }
 
@@ -127,54 +128,41 @@ class TableTest : public PanelTest {
   }
 };
 
-TEST_F(TableTest, ADragShowsItsRowsWhileItRunsAndUntilTheCursorMoves) {
-  QWidget* const viewport = table().viewport();
-  QTest::mousePress(viewport, Qt::LeftButton, {}, CellCenter(2, kMnemonicColumn));
-  for (const int row : {3, 5, 4}) {
-    QMouseEvent move(QEvent::MouseMove, CellCenter(row, kMnemonicColumn), {}, Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &move);
-    EXPECT_EQ(ShownRows(), std::pair(2, row));
-  }
-  QTest::mouseRelease(viewport, Qt::LeftButton, {}, CellCenter(4, kMnemonicColumn));
-  EXPECT_EQ(ShownRows(), std::pair(2, 4));
-  EXPECT_EQ(session().SelectionTop, 2);
-  EXPECT_EQ(session().SelectionBottom, 4);
-  Click("INST 78");
-  EXPECT_EQ(ShownRows(), std::pair(-1, -1));
-}
-
 TEST_F(TableTest, TheRowsShownAreThoseThatCount) {
   for (int i = 0; i < 6; ++i) Click("INST 78");
-  QWidget* const viewport = table().viewport();
-  const auto drag = [&](int from, int to, bool escape = false) {
-    QTest::mousePress(viewport, Qt::LeftButton, {}, CellCenter(from, kMnemonicColumn));
-    QMouseEvent move(QEvent::MouseMove, CellCenter(to, kMnemonicColumn), {}, Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &move);
-    if (escape) Press(Qt::Key_Escape);
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, CellCenter(to, kMnemonicColumn));
-    EXPECT_EQ(ShownRows(), std::pair(session().SelectionTop, session().SelectionBottom));
-  };
-  drag(0, 3);
-  EXPECT_EQ(ShownRows(), std::pair(1, 3));
-  drag(3, 0);
-  EXPECT_EQ(ShownRows(), std::pair(0, 3));
-  drag(4, 2, true);
-  drag(2, 4);
-  QTest::mouseClick(viewport, Qt::LeftButton, {}, CellCenter(5, kCommentColumn));
-  EXPECT_EQ(ShownRows(), std::pair(2, 4)) << "still what Delete takes";
-}
-
-TEST_F(TableTest, ADragEndsWhereTheButtonIsFoundUp) {
-  QTest::mousePress(table().viewport(), Qt::LeftButton, {}, CellCenter(2, kMnemonicColumn));
-  for (const Qt::MouseButtons buttons : {Qt::LeftButton, Qt::NoButton}) {
-    QMouseEvent move(QEvent::MouseMove, CellCenter(buttons ? 4 : 6, kMnemonicColumn), {},
-                     Qt::NoButton, buttons, Qt::NoModifier);
-    QApplication::sendEvent(table().viewport(), &move);
+  using Rows = std::pair<int, int>;
+  const struct {
+    std::vector<int> rows;  // where the button is pressed, and where the pointer goes
+    Rows shown;             // while the button is held
+    Rows selected;
+    const char* key = nullptr;
+  } drags[] = {{{2, 3, 5, 4}, {2, 4}, {2, 4}},
+               {{0, 3}, {1, 3}, {1, 3}},
+               {{3, 0}, {0, 3}, {0, 3}},
+               {{5, 2}, {2, 5}, {2, 5}, "Esc"},
+               {{2, 4}, {2, 4}, {2, 4}}};
+  QWidget& viewport = *table().viewport();
+  for (const auto& drag : drags) {
+    SCOPED_TRACE(&drag - drags);
+    QTest::mousePress(&viewport, Qt::LeftButton, {}, CellCenter(drag.rows[0], kMnemonicColumn));
+    for (const int row : drag.rows)
+      Move(viewport, CellCenter(row, kMnemonicColumn), Qt::LeftButton);
+    EXPECT_EQ(ShownRows(), drag.shown);
+    if (drag.key != nullptr) Play(drag.key);
+    QTest::mouseRelease(&viewport, Qt::LeftButton, {},
+                        CellCenter(drag.rows.back(), kMnemonicColumn));
+    EXPECT_EQ(ShownRows(), drag.selected);
+    EXPECT_EQ(Rows(session().SelectionTop, session().SelectionBottom), drag.selected);
   }
+  QTest::mouseClick(&viewport, Qt::LeftButton, {}, CellCenter(5, kCommentColumn));
+  EXPECT_EQ(ShownRows(), Rows(2, 4)) << "still what Delete takes";
+  QTest::mousePress(&viewport, Qt::LeftButton, {}, CellCenter(3, kMnemonicColumn));
+  Move(viewport, CellCenter(4, kMnemonicColumn), Qt::LeftButton);
+  Move(viewport, CellCenter(6, kMnemonicColumn));
+  EXPECT_EQ(ShownRows(), Rows(3, 4)) << "a drag ends where the button is found up";
   EXPECT_EQ(session().SelectionBottom, 4);
-  EXPECT_EQ(ShownRows(), std::pair(2, 4));
+  Click("INST 78");
+  EXPECT_EQ(ShownRows(), Rows(-1, -1));
 }
 
 TEST_F(PanelTest, AnInterruptKeyIsHeldUntilItsButtonIsLetGo) {
@@ -185,8 +173,7 @@ TEST_F(PanelTest, AnInterruptKeyIsHeldUntilItsButtonIsLetGo) {
       QTest::mousePress(key, by);
       const QString pressed = key->text();
       for (const QPoint place : {QPoint(-9, -9), QPoint(3, 3), QPoint(-9, -9)}) {
-        QMouseEvent move(QEvent::MouseMove, place, {}, Qt::NoButton, by, Qt::NoModifier);
-        QApplication::sendEvent(key, &move);
+        Move(*key, place, by);
         EXPECT_EQ(key->text(), pressed) << line;
       }
       EXPECT_EQ(pressed == held, by == Qt::LeftButton || line == std::string("IButton 2"));
@@ -194,6 +181,19 @@ TEST_F(PanelTest, AnInterruptKeyIsHeldUntilItsButtonIsLetGo) {
     }
     EXPECT_EQ(key->text(), "0");
   }
+}
+
+TEST_F(TableTest, AKeyTouchesItsRowsAndNoOthers) {
+  QAbstractItemModel* const model = table().model();
+  const QSignalSpy resets(model, &QAbstractItemModel::modelReset);
+  const QSignalSpy layouts(model, &QAbstractItemModel::layoutChanged);
+  QSignalSpy changes(model, &QAbstractItemModel::dataChanged);
+  session().SetWriteMode(true);
+  Play("MOV Return a b");
+  QCoreApplication::processEvents();
+  EXPECT_LE(changes.size(), 3) << "told once for each key";
+  for (const auto& change : changes) EXPECT_LE(change[1].toModelIndex().row(), 2);
+  EXPECT_EQ(resets.size() + layouts.size(), 0);
 }
 
 TEST_F(TableTest, TheCursorStaysInView) {
@@ -225,6 +225,10 @@ TEST_F(TableTest, ReadsLikeAListing) {
 }
 
 TEST(Colors, ReadWellInBothPalettes) {
+  EXPECT_EQ(FromBlueGreenRed(0x0000FF), QColor(Qt::red));
+  const QColor green(0, 0x80, 0);
+  EXPECT_EQ(ReadableOn(Qt::white, green), green);
+  EXPECT_GT(ReadableOn(QColor(0x20, 0x20, 0x20), green).lightness(), green.lightness());
   const QPalette light(Qt::black, Qt::white, Qt::white, Qt::black, Qt::gray, Qt::black, Qt::white);
   const QPalette dark(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::gray, Qt::white, Qt::black);
   for (const QPalette& palette : {light, dark}) {
@@ -239,35 +243,28 @@ TEST(Colors, ReadWellInBothPalettes) {
 }
 
 TEST_F(PanelTest, BoxesSayWhatTheyTakeAndWhyAKeyIsGrey) {
-  const auto expect = [this](const char* typed, const char* words, const char* box = "Label") {
-    Find<QLineEdit>(QString(box) + "Text").clear();
-    Type(typed);
-    EXPECT_TRUE(Find<QLabel>(QString(box) + "BoxHint").text().contains(words)) << words;
-  };
-  Click("INST 37");
-  expect("", "Esc gives the row back");
-  expect("", "Existing is grey");
-  expect("1", "begins with a small letter");
-  expect("aB", "only small letters and digits");
-  expect("loop", "1 to 6 small letters");
-  Press(Qt::Key_Return);
-  Click("INST 37");
-  expect("loop", "choose Existing");
-  Press(Qt::Key_Escape);
-  Click("INST 1");
-  Type("A");
-  expect("loop", "choose another", "XX");
+  const struct {
+    const char* words;
+    const char* hint;
+    const char* box = "LabelBoxHint";
+  } steps[] = {{"JMP Return", "Esc gives the row back"},
+               {"Tab", "Existing is grey"},
+               {"LabelText 1", "begins with a small letter"},
+               {"Home Del aB", "only small letters and digits"},
+               {"Backspace Backspace loop", "1 to 6 small letters"},
+               {"Return JMP Return loop", "choose Existing"},
+               {"Esc MVI Return A loop", "choose another", "XXBoxHint"}};
+  for (const auto& [words, hint, box] : steps) {
+    Play(words);
+    EXPECT_TRUE(Find<QLabel>(box).text().contains(hint)) << words;
+  }
 }
 
 TEST_F(TableTest, ThePointerTellsWhatAClickActsOn) {
-  const auto shape_over = [this](int column) {
-    const QPoint place = CellCenter(3, column);
-    QMouseEvent move(QEvent::MouseMove, place, {}, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(table().viewport(), &move);
-    return table().viewport()->cursor().shape();
-  };
-  EXPECT_EQ(shape_over(kMnemonicColumn), Qt::PointingHandCursor);
-  EXPECT_EQ(shape_over(kCommentColumn), Qt::ArrowCursor);
+  Move(*table().viewport(), CellCenter(3, kMnemonicColumn));
+  EXPECT_EQ(table().viewport()->cursor().shape(), Qt::PointingHandCursor);
+  Move(*table().viewport(), CellCenter(3, kCommentColumn));
+  EXPECT_EQ(table().viewport()->cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(TableTest, ATextIsShownAsItStands) {
@@ -278,10 +275,9 @@ TEST_F(TableTest, ATextIsShownAsItStands) {
   QHelpEvent help(QEvent::ToolTip, CellCenter(1, kCommentColumn), {});
   QApplication::sendEvent(table().viewport(), &help);
   EXPECT_TRUE(QToolTip::text().contains("&lt;b&gt;"));
-  Press(Qt::Key_F4);
+  Play("F4");
   QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, CellCenter(1, kCommentColumn));
-  Press(Qt::Key_End);
-  Press(Qt::Key_Backspace);
+  Play("End Backspace");
   EXPECT_EQ(Cell(1, kCommentColumn).size(), comment.size() - 1);
 }
 
@@ -294,8 +290,7 @@ TEST_F(PanelTest, ATableOpenedAgainStartsAtItsTop) {
 }
 
 TEST_F(PanelTest, AnotherPaletteRecoloursEverything) {
-  Click("INST 1");
-  Press(Qt::Key_A);
+  Play("MVI Return A");
   const QPalette before = QApplication::palette();
   session().WriteModeLabel.set_color(0x0000FF);
   const QColor light = Find("WriteModeLabel").palette().color(QPalette::WindowText);
@@ -306,25 +301,18 @@ TEST_F(PanelTest, AnotherPaletteRecoloursEverything) {
   QApplication::setPalette(before);
 }
 
-TEST_F(TableTest, HintsFollowThePointer) {
-  const auto hover = [this](QWidget& widget) {
-    QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), {}, Qt::NoButton, Qt::NoButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(&widget, &move);
-  };
-  hover(Find("INST 1"));
+TEST_F(PanelTest, HintsFollowThePointer) {
+  Move(Find("INST 1"), {3, 3});
   const auto& name = Find<QLabel>("InstructionLabel 0");
   const auto& operands = Find<QLabel>("InstructionLabel 1");
-  EXPECT_EQ(name.text(), "MVI");
-  EXPECT_EQ(operands.text(), "  Register/Memory, 8-Bit Data");
   QCoreApplication::processEvents();
   EXPECT_EQ(operands.x(), name.x() + name.width()) << "the second continues the first";
   window().mirror().Get<Button>("INST", 5).set_enabled(false);
   for (const char* hintless : {"INST 5", "InstructionBox", "TipsLabel"}) {
-    hover(Find(hintless));
+    Move(Find(hintless), {3, 3});
     EXPECT_EQ(name.text(), "MVI") << hintless << " is not nothing";
   }
-  hover(*window().centralWidget());
+  Move(*window().centralWidget(), {3, 3});
   EXPECT_EQ(name.text(), "");
 }
 

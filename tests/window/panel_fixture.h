@@ -6,6 +6,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QKeySequence>
+#include <QMouseEvent>
 #include <QTest>
 #include <sstream>
 #include <string>
@@ -47,16 +49,28 @@ class PanelTest : public testing::Test {
     return *widget;
   }
   std::string FocusName() { return window().focusWidget()->objectName().toStdString(); }
-  /// Types into whatever has the focus, key by key.
-  void Type(const QString& text) {
-    for (const QChar character : text) {
-      QTest::keyClick(window().focusWidget(), character.toLatin1());
+  /// Plays words: the name of a menu entry, which is chosen, that of a widget, '_' for its blanks,
+  /// which gets the focus, that of a key, which is pressed, or letters to type.
+  void Play(const QString& words) { Play(window(), words); }
+  static void Play(QWidget& top, const QString& words) {
+    for (QString word : words.split(' ')) {
+      const QKeyCombination keys = QKeySequence(word)[0];
+      if (auto* const action = top.findChild<QAction*>(word)) {
+        action->trigger();
+      } else if (auto* const widget = top.findChild<QWidget*>(word.replace('_', ' '))) {
+        widget->setFocus();
+      } else if (word.size() > 1 && keys.key() != Qt::Key_unknown) {
+        QTest::keyClick(top.focusWidget(), keys.key(), keys.keyboardModifiers());
+      } else {
+        for (const QChar letter : word) QTest::keyClick(top.focusWidget(), letter.toLatin1());
+      }
     }
   }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(window().focusWidget(), key, modifiers);
-  }
   void Click(const QString& name) { QTest::mouseClick(&Find(name), Qt::LeftButton); }
+  static void Move(QWidget& widget, QPoint place, Qt::MouseButtons buttons = Qt::NoButton) {
+    QMouseEvent move(QEvent::MouseMove, place, {}, Qt::NoButton, buttons, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &move);
+  }
   QWidget& OpenSimulator() {
     window().findChild<QAction*>("SimulationView")->trigger();
     outside_.clock.PassAll();
@@ -67,6 +81,14 @@ class PanelTest : public testing::Test {
     throw std::logic_error("no simulator");
   }
   std::string Cell(int row, Column column) { return session().Table1.TextMatrix(row, column); }
+  /// The row over the cursor: label, address, mnemonic and opcode.
+  std::string LastRow() {
+    std::string cells;
+    for (const Column column : {kLabelColumn, kAddressColumn, kMnemonicColumn, kOpcodeColumn}) {
+      cells += (column > 0 ? "|" : "") + Cell(session().CurrentRow - 1, column);
+    }
+    return cells;
+  }
 
   std::ostringstream transcript_;
   robot::ScriptedOutside outside_{transcript_};

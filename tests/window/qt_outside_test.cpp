@@ -22,7 +22,6 @@
 #include "formats/hex_file.h"
 #include "panel/quilla.h"
 #include "platform/failure.h"
-#include "window/colors.h"
 #include "window/form_mirror.h"
 #include "window/qt_text.h"
 #include "window/when_open.h"
@@ -37,15 +36,6 @@ TEST(QtTextTest, TakesTextsThatAreNoUtf8AsWindows1252) {
       << "the whole text or nothing";
   EXPECT_EQ(FromQt(QStringLiteral(u"\u0915\u20AC")), "\xE0\xA4\x95\xE2\x82\xAC");
   EXPECT_EQ(LabelText("a && b &c"), "a & b &c");
-}
-
-TEST(ColorsTest, TextReadsOnItsGround) {
-  EXPECT_EQ(FromBlueGreenRed(0x0000FF), QColor(Qt::red));
-  EXPECT_EQ(TextOn(QColor(0xE0, 0xE0, 0xE0)), QColor(Qt::black));
-  EXPECT_EQ(TextOn(QColor(Qt::blue)), QColor(Qt::white));
-  EXPECT_EQ(ReadableOn(QColor(Qt::white), QColor(0, 0x80, 0)), QColor(0, 0x80, 0));
-  EXPECT_GT(ReadableOn(QColor(0x20, 0x20, 0x20), QColor(0, 0x80, 0)).lightness(),
-            QColor(0, 0x80, 0).lightness());
 }
 
 TEST(GateTest, FailuresEndHereAndOthersAreKept) {
@@ -94,26 +84,6 @@ TEST(QtMessageBoxesTest, ShowTheTextAndGiveTheButton) {
   }
 }
 
-TEST(QtFileDialogsTest, GiveThePathAsTypedOrNothing) {
-  const QTemporaryDir folder;
-  QtFileDialogs dialogs;
-  const FileDialogRequest request = {FileDialogKind::kSave, "Save to Hex file",
-                                     "Hex Files(*.hex)|*.hex", kOverwritePrompt | kPathMustExist};
-  const QString path = QDir(folder.path()).filePath(QStringLiteral(u"s\u00FCm of two"));
-  WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "Save to Hex file");
-    EXPECT_EQ(dialog.nameFilters(), QStringList("Hex Files (*.hex)"));
-    dialog.findChild<QLineEdit*>()->setText(path);
-    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
-  });
-  EXPECT_EQ(dialogs.Choose(request), path.toStdString()) << "no ending is added";
-  WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.directory(), QDir(folder.path())) << "it opens where the last one ended";
-    dialog.reject();
-  });
-  EXPECT_EQ(dialogs.Choose(request), std::nullopt);
-}
-
 TEST(QtFileDialogsTest, SavingBeginsWithANameAndAsksOfTheFileThatIsWritten) {
   const QTemporaryDir folder;
   const auto in_folder = [&](const char* name) { return QDir(folder.path()).filePath(name); };
@@ -152,11 +122,18 @@ TEST(QtFileDialogsTest, SavingBeginsWithANameAndAsksOfTheFileThatIsWritten) {
   session.menu.SaveAsFile.Choose();
   EXPECT_EQ(written.size(), 0);
   EXPECT_FALSE(QApplication::windowIcon().isNull());
-  WhenOpen<QFileDialog>([](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "Pgm1.hex");
-    dialog.reject();
+  WhenOpen<QFileDialog>([&](QFileDialog& dialog) { enter(dialog, in_folder("s\u00FCm.baf")); });
+  session.menu.SaveAsFile.Choose();
+  EXPECT_TRUE(QFile::exists(in_folder("s\u00FCm.baf")));
+  WhenOpen<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Save to Hex file");
+    EXPECT_EQ(dialog.nameFilters(), QStringList("Hex Files (*.hex)"));
+    EXPECT_EQ(dialog.directory(), QDir(folder.path())) << "it opens where the last one ended";
+    EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "s\u00FCm.hex");
+    enter(dialog, in_folder("of two"));
   });
   SaveHexRecords(session, 1, FailedWrite::kClosesChannel, [] {});
+  EXPECT_TRUE(QFile::exists(in_folder("of two"))) << "no ending is added";
   EXPECT_FALSE(QFile::exists(QSettings(QSettings::UserScope, "QtProject").fileName()));
   outside.event_loop().DestroyWindows();
 }

@@ -163,15 +163,6 @@ class LinkTest : public QtSerialPortTest {
     outside_.boxes.Queue(BoxAnswer::kOk);
     entry.Choose();
   }
-  /// Runs `action` when the tip reads so; it may be inside a handler that waits.
-  void When(const std::string& wanted, const std::function<void()>& action) {
-    watch_.callOnTimeout([this, wanted, action] {
-      if (tip() != wanted) return;
-      watch_.stop();
-      action();
-    });
-    watch_.start(1);
-  }
   /// Whether just this arrives at the trainer.
   bool Arrives(const std::string& sent) {
     return QTest::qWaitFor([&] { return Record().size() >= sent.size(); }) && Record() == sent;
@@ -189,7 +180,6 @@ class LinkTest : public QtSerialPortTest {
   Outside desktop_{outside_.boxes, outside_.file_dialogs, port_, clock_, outside_.printer,
                    loop_,          outside_.storage};
   ProgrammingPanel panel_{desktop_};
-  QTimer watch_;
 };
 
 TEST_F(LinkTest, ADownloadArrivesWholeAndComesBackAsItWas) {
@@ -210,7 +200,11 @@ TEST_F(LinkTest, ASlowLineLosesNothing) {
   Transfer(session().menu.DownloadFile, Path("image.hex"));
   ASSERT_TRUE(TipComes("Download completed."));
   EXPECT_TRUE(Arrives(records));
-  When("Uploading . . .", [this] { trainer_.kill(); });
+  QTimer watch;
+  watch.callOnTimeout([this] {
+    if (tip() == "Uploading . . .") trainer_.kill();
+  });
+  watch.start(1);
   Transfer(session().menu.UploadFile);
   EXPECT_EQ(tip(), "Upload incomplete.") << "the trainer has gone";
   EXPECT_FALSE(session().PortOpen);

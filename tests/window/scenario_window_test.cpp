@@ -1,7 +1,9 @@
 // Every scenario of tests/scenarios/, and made-up scripts, played on the real widgets: the
-// transcript is the same as on the models, and the widgets show what the models hold.
+// transcript is the same as on the models, the widgets show what the models hold, and the table
+// changes as Qt asks of an item model.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemModelTester>
 #include <filesystem>
 #include <memory>
 #include <sstream>
@@ -26,6 +28,10 @@ class CheckedHands : public WidgetHands {
     QStringList lines;
     for (const auto& [form, window] : shown()) {
       lines << DifferencesFromModels(*window.mirror, *window.window);
+      auto* const table = window.window->findChild<GridView*>("Table1");
+      if (table == nullptr || table->findChild<QAbstractItemModelTester*>() != nullptr) continue;
+      using Report = QAbstractItemModelTester::FailureReportingMode;
+      new QAbstractItemModelTester(table->model(), Report::Fatal, table);
     }
     return lines.join(u'\n').toStdString();
   }

@@ -4,12 +4,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "panel/running_program.h"
 #include "platform/button.h"
 #include "platform/grid.h"
 #include "program/vocabulary.h"
@@ -23,17 +23,12 @@ namespace fs = std::filesystem;
 
 const fs::path kExamples = fs::path(QUILLA_SOURCE_DIR) / "examples";
 
-std::vector<std::string> NamesIn(const char* folder) {
+std::vector<std::string> Names() {
   std::vector<std::string> names;
-  for (const auto& file : fs::directory_iterator(kExamples / folder)) {
+  for (const auto& file : fs::directory_iterator(kExamples / "src")) {
     names.push_back(file.path().stem().string());
   }
   return names;
-}
-
-std::string ContentOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 class ExampleTest : public testing::TestWithParam<std::string> {};
@@ -46,8 +41,8 @@ TEST_P(ExampleTest, AssemblesAndComesToItsResult) {
   std::ostringstream transcript;
   ASSERT_EQ(RunScript(source, transcript, transcript), kPlayed) << transcript.str();
   EXPECT_EQ(transcript.str().find("refused"), std::string::npos) << transcript.str();
-  EXPECT_EQ(ContentOf(program), ContentOf(kExamples / program));
-  EXPECT_EQ(ContentOf(hex_file), ContentOf(kExamples / hex_file));
+  EXPECT_EQ(BytesOf(program), BytesOf(kExamples / program));
+  EXPECT_EQ(BytesOf(hex_file), BytesOf(kExamples / hex_file));
 
   fs::remove(hex_file);
   std::istringstream script("path " + program.string() + "\nclick OpenFile\npath " +
@@ -57,7 +52,7 @@ TEST_P(ExampleTest, AssemblesAndComesToItsResult) {
                             "click WatchWindowDialog.AcceptButton\n");
   Robot robot(script, transcript, transcript);
   ASSERT_EQ(robot.Play(), kPlayed) << transcript.str();
-  EXPECT_EQ(ContentOf(hex_file), ContentOf(kExamples / hex_file));
+  EXPECT_EQ(BytesOf(hex_file), BytesOf(kExamples / hex_file));
 
   const Form* window = nullptr;
   for (const Form* form : robot.quilla().Forms()) {
@@ -88,18 +83,7 @@ TEST_P(ExampleTest, AssemblesAndComesToItsResult) {
   EXPECT_GT(promises, 0);
 }
 
-TEST(DemonstrationTest, EveryOneCanBePlayedToItsEnd) {
-  const ScratchFolder folder(kExamples / "none");
-  for (const std::string& name : NamesIn("demos")) {
-    std::ifstream script(kExamples / "demos" / (name + ".robot"));
-    std::ostringstream transcript;
-    EXPECT_EQ(RunScript(script, transcript, transcript), kPlayed) << transcript.str();
-    EXPECT_EQ(transcript.str().find("refused"), std::string::npos) << transcript.str();
-    EXPECT_EQ(transcript.str().find("-> cancel"), std::string::npos) << "a dialog without a path";
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, testing::ValuesIn(NamesIn("src")),
+INSTANTIATE_TEST_SUITE_P(Examples, ExampleTest, testing::ValuesIn(Names()),
                          [](const auto& example) { return example.param; });
 
 }  // namespace

@@ -36,37 +36,32 @@ fs::path NewFolder() {
   return fs::canonical(folder);
 }
 
-}  // namespace
-
-std::vector<Scenario> ReadScenarios(const fs::path& path) {
-  std::vector<Scenario> scenarios;
-  std::string title;
+/// Adds the scenarios of a file.
+void ReadScenarios(const fs::path& path, std::vector<Scenario>& scenarios) {
+  std::string title = path.stem().string();
   std::ifstream file(path);
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line.front() == '#') continue;
     if (line.starts_with(kTitleMark)) {
-      title = '_' + line.substr(kTitleMark.size());
+      title = path.stem().string() + '_' + line.substr(kTitleMark.size());
       continue;
     }
-    if (scenarios.empty() || !title.empty()) {
-      scenarios.push_back({NameOf(path.stem().string() + std::exchange(title, {})), {}, kStart});
-    }
+    if (!title.empty()) scenarios.push_back({NameOf(std::exchange(title, {})), {}, kStart});
     Scenario& scenario = scenarios.back();
     if (line.starts_with(kScriptMark)) scenario.script += line.substr(kScriptMark.size()) + '\n';
     scenario.transcript += line + '\n';
   }
-  return scenarios;
 }
 
-std::vector<Scenario> ScenariosIn(const fs::path& folder) {
+}  // namespace
+
+std::vector<Scenario> AllScenarios() {
   std::set<fs::path> paths;
-  for (const auto& entry : fs::directory_iterator(folder)) {
+  for (const auto& entry : fs::directory_iterator(kScenarios)) {
     if (entry.path().extension() == kScenarioEnding) paths.insert(entry.path());
   }
   std::vector<Scenario> scenarios;
-  for (const fs::path& path : paths) {
-    for (Scenario& scenario : ReadScenarios(path)) scenarios.push_back(std::move(scenario));
-  }
+  for (const fs::path& path : paths) ReadScenarios(path, scenarios);
   return scenarios;
 }
 

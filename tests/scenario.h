@@ -9,6 +9,8 @@
 
 namespace quilla::robot {
 
+inline const std::filesystem::path kScenarios = QUILLA_SOURCE_DIR "/tests/scenarios";
+
 struct Scenario {
   /// The file and the title, each character that is no letter or digit an underscore.
   std::string name;
@@ -18,10 +20,9 @@ struct Scenario {
   std::string transcript;
 };
 
-/// The scenarios of a file, in order. What stands over the first title is the first of them.
-std::vector<Scenario> ReadScenarios(const std::filesystem::path& path);
-/// The scenarios of all files of a folder, in order of their names.
-std::vector<Scenario> ScenariosIn(const std::filesystem::path& folder);
+/// The scenarios of all files, in order of their names. What stands over the first title of a file
+/// is a scenario too.
+std::vector<Scenario> AllScenarios();
 
 /// Shows the first line where two transcripts differ, after the lines that do not; empty if they
 /// are equal.

@@ -3,16 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <sstream>
 
 #include "robot/robot.h"
 
 namespace quilla::robot {
 namespace {
-
-const std::filesystem::path kScenarios =
-    std::filesystem::path(QUILLA_SOURCE_DIR) / "tests" / "scenarios";
 
 class ScenarioTest : public testing::TestWithParam<Scenario> {};
 
@@ -26,7 +22,7 @@ TEST_P(ScenarioTest, GivesItsTranscript) {
   EXPECT_TRUE(difference.empty()) << difference;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ScenarioTest, testing::ValuesIn(ScenariosIn(kScenarios)),
+INSTANTIATE_TEST_SUITE_P(All, ScenarioTest, testing::ValuesIn(AllScenarios()),
                          [](const auto& scenario) { return scenario.param.name; });
 
 }  // namespace

@@ -2,30 +2,19 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
 
-#include "fuzz/fuzz.h"
+#include "fuzz/targets.h"
+#include "panel/running_program.h"
 
 namespace quilla::fuzz {
 namespace {
 
 TEST(FuzzTest, TheCorporaGoThrough) {
-  const struct {
-    std::string name;
-    void (*target)(std::string_view);
-  } targets[] = {{"hex", HexFile},
-                 {"project", ProjectFile},
-                 {"items", Items},
-                 {"script", Script},
-                 {"simulator", Simulator}};
-  for (const auto& [name, target] : targets) {
+  const std::filesystem::path corpora = QUILLA_SOURCE_DIR "/tests/fuzz/corpus";
+  for (const auto& [name, take] : kTargets) {
     int played = 0;
-    for (const auto& entry :
-         std::filesystem::directory_iterator(QUILLA_SOURCE_DIR "/tests/fuzz/corpus/" + name)) {
-      std::ifstream file(entry.path(), std::ios::binary);
-      target(std::string{std::istreambuf_iterator<char>(file), {}});
+    for (const auto& entry : std::filesystem::directory_iterator(corpora / name)) {
+      take(BytesOf(entry.path()));
       ++played;
     }
     EXPECT_GT(played, 0) << name;

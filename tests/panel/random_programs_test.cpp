@@ -76,18 +76,6 @@ class ProgramTest : public testing::Test {
   RunningProgram program_;
 };
 
-TEST_F(ProgramTest, TheExamplesComeBackFromTheirHexFiles) {
-  int examples = 0;
-  for (const auto& file : std::filesystem::directory_iterator(QUILLA_SOURCE_DIR "/examples")) {
-    if (file.path().extension() != ".baf") continue;
-    SCOPED_TRACE(file.path().stem().string());
-    program_.Open(file.path().string());
-    CheckRoundTrip();
-    ++examples;
-  }
-  EXPECT_EQ(examples, 9);
-}
-
 class RandomProgramsTest : public ProgramTest, public testing::WithParamInterface<unsigned> {
  protected:
   RandomProgramsTest() : random_(GetParam()) {

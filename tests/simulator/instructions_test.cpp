@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/failure.h"
+#include "platform/failure_of.h"
 #include "simulator/machine.h"
 #include "simulator/watch_tables.h"
 
@@ -56,12 +56,7 @@ class Lab {
   }
   /// Runs one step; false if it failed.
   bool Step() {
-    try {
-      machine.Execute();
-    } catch (const Failure&) {
-      return false;
-    }
-    return true;
+    return !FailureOf([this] { machine.Execute(); });
   }
   void Expect(const std::string& words) {
     ForEach(words, [](Grid& grid, int row, const std::string& text) {

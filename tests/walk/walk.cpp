@@ -6,13 +6,13 @@
 #include <filesystem>
 #include <fstream>
 #include <istream>
-#include <optional>
 #include <ostream>
 #include <sstream>
 #include <streambuf>
 #include <string_view>
 #include <utility>
 
+#include "panel/running_program.h"
 #include "program/opcode_cell.h"
 #include "robot/robot.h"
 #include "scenario.h"
@@ -40,114 +40,55 @@ constexpr std::string_view kBoxes[] = {"InstructionBox", "RegisterBox", "NumberB
                                        "LabelBox",       "XXBox",       "PlaceBox",  "FindBox",
                                        "ReplaceBox",     "CommentsBox"};
 
-/// What holds in every state of the program, whatever the user has done.
-class Rules {
- public:
-  /// The session must outlive the object.
-  explicit Rules(const Session& session) : session_(session) {}
-
-  /// Says which of the rules is broken; empty if all hold.
-  std::string Broken() const;
-  /// The same for what the lists say of labels. It holds where they have just been brought up to
-  /// date, as at the start of the place tool.
-  std::string BrokenLabelList() const;
-  /// The same for the strings of the clipboard, where it has just been pasted.
-  std::string BrokenPaste() const;
-
- private:
-  const Session& session_;
-};
-
-std::string Rules::Broken() const {
-  struct Rule {
-    const char* text;
-    bool holds;
-  };
-  const int rows = session_.Table1.Rows();
-  const auto open_boxes = std::ranges::count_if(kBoxes, [this](std::string_view name) {
-    const Control* const box = session_.ProgrammingPanel.Find(name);
-    return box != nullptr && box->visible();
-  });
-  const Rule rules[] = {
-      {"StringTable is as tall as Table1", session_.StringTable.Rows() == rows},
-      {"EditStringTable is as long as EditTable",
-       session_.EditStringTable.Count() == session_.EditTable.Rows()},
-      {"LabelEqtList is as long as LabelCombo",
-       session_.LabelEqtList.Count() == session_.LabelCombo.Count()},
-      {"XXEqtList is as long as XXCombo", session_.XXEqtList.Count() == session_.XXCombo.Count()},
-      {"CurrentRow is in the table", session_.CurrentRow >= 0 && session_.CurrentRow < rows},
-      {"the commands are offered when the panel is ready",
-       session_.menu.SaveFile.enabled() == session_.IsReady()},
-      {"one box is open at most", open_boxes <= 1},
-  };
-  for (const Rule& rule : rules) {
-    if (!rule.holds) return std::string("no more: ") + rule.text;
+/// Says what is wrong in what the lists say of labels. It holds where they have just been brought
+/// up to date, as at the start of the place tool.
+std::string BrokenLabelList(const Session& session) {
+  for (const ComboBox* copy : {&session.FindCombo, &session.PlaceCombo, &session.ReplaceCombo}) {
+    if (copy->items() != session.LabelCombo.items()) return copy->name() + " is no copy";
   }
-  return {};
-}
-
-std::string Rules::BrokenLabelList() const {
-  for (const ComboBox* copy : {&session_.FindCombo, &session_.PlaceCombo, &session_.ReplaceCombo}) {
-    if (copy->items() != session_.LabelCombo.items()) return copy->name() + " is no copy";
-  }
-  for (int i = 0; i < session_.LabelCombo.Count(); ++i) {
-    const std::string& label = session_.LabelCombo[i];
+  for (int i = 0; i < session.LabelCombo.Count(); ++i) {
+    const std::string& label = session.LabelCombo[i];
     int line = 0;
     bool used = false;
-    for (int row = session_.Table1.Rows() - 1; row > 0; --row) {
-      if (session_.Table1.TextMatrix(row, kLabelColumn) == label) line = row;
-      used = used || (session_.OperandOf(row) == label &&
-                      HasLabel(session_.Table1.TextMatrix(row, kOpcodeColumn)));
+    for (int row = session.Table1.Rows() - 1; row > 0; --row) {
+      if (session.Table1.TextMatrix(row, kLabelColumn) == label) line = row;
+      used = used || (session.OperandOf(row) == label &&
+                      HasLabel(session.Table1.TextMatrix(row, kOpcodeColumn)));
     }
-    if (session_.LabelLineList[i] != std::to_string(line) ||
-        session_.LabelPlacedList[i] != (line > 0 ? kYesFlag : kNoFlag) ||
-        session_.LabelUsedList[i] != (used ? kYesFlag : kNoFlag)) {
+    if (session.LabelLineList[i] != std::to_string(line) ||
+        session.LabelPlacedList[i] != (line > 0 ? kYesFlag : kNoFlag) ||
+        session.LabelUsedList[i] != (used ? kYesFlag : kNoFlag)) {
       return "the lists are wrong about '" + label + "'";
     }
   }
   return {};
 }
 
-std::string Rules::BrokenPaste() const {
-  if (session_.TipsLabel.caption() != "Completed pasting.") return {};
-  for (int row = 0; row < session_.EditTable.Rows(); ++row) {
-    const std::string& name = session_.EditStringTable[row];
-    const bool variable = HasVariable(session_.EditTable.TextMatrix(row, kOpcodeColumn));
-    const TextList& names = variable ? session_.XXCombo : session_.LabelCombo;
+/// The same for the strings of the clipboard, where it has just been pasted.
+std::string BrokenPaste(const Session& session) {
+  if (session.TipsLabel.caption() != "Completed pasting.") return {};
+  for (int row = 0; row < session.EditTable.Rows(); ++row) {
+    const std::string& name = session.EditStringTable[row];
+    const bool variable = HasVariable(session.EditTable.TextMatrix(row, kOpcodeColumn));
+    const TextList& names = variable ? session.XXCombo : session.LabelCombo;
     if (!name.empty() && names.Find(name) < 0) return "the pasted '" + name + "' is not listed";
   }
-  return BrokenLabelList();
+  return BrokenLabelList(session);
 }
 
 void Write(const std::string& name, const std::string& bytes) {
   std::ofstream(name, std::ios::binary) << bytes;
 }
 
-/// A project that no panel has made: two origins in a row, labels under two addresses and on two
-/// rows, names that are both kinds, cells of odd lengths.
-std::string OddProject() {
-  return "odd\n8085\n9\n"
-         "Origin,7000,,,,\n"
-         "Origin,2000,,,,\n"
-         "twice,,JMP  twice,C3   XX   XX,,twice\n"
-         "twice,,MVI  A,3E,both,both\n"
-         ",,LXI  H,21   00   80,both,both\n"
-         "Origin,FFF0,NOP,00,,x\n"
-         ",,J,C3,short,longer\n"
-         ",,DFB,ZZ   00,odd,both\n"
-         "last,,RNC,D0,,\n"
-         "EOT\n4\ntwice,8000\ntwice,9000\nboth,XXXX\nnone,\n2\nboth,XX\nfree,12\nEOF\n";
-}
-
-/// The files that a walk finds.
+/// The files that a walk finds besides those of the scenarios. One is a project that no panel has
+/// made: two origins in a row, labels under two addresses and on two rows, names that are both
+/// kinds, cells of odd lengths.
 void WriteFiles() {
-  const std::string project = OddProject();
+  const std::string project = BytesOf(QUILLA_SOURCE_DIR "/tests/fuzz/corpus/project/odd");
   Write("odd.baf", project);
   Write("cut.baf", project.substr(0, project.size() / 2));
   Write("huge.baf", "x\n8085\n2000000000\n");
   Write("empty.baf", "");
-  Write("good.hex", "\":0380000021008059\"\r\n\":00000001FF\"\r\n");
-  std::filesystem::create_directory("folder.baf");
 }
 
 /// A script as a stream: each line is made when the player asks for it.
@@ -166,17 +107,16 @@ class Walk : private std::streambuf {
   /// Gives the rule that broke, or nothing.
   std::string Play() {
     if (robot_.Play() != robot::kPlayed) return errors_.str();
-    return fault_.empty() && rules_ ? rules_->Broken() : fault_;
+    return fault_.empty() ? BrokenRule(session()) : fault_;
   }
 
  private:
   Session& session() { return robot_.quilla().panel()->session(); }
 
   int_type underflow() override {
-    if (!rules_) rules_.emplace(session());
-    if (fault_.empty()) fault_ = rules_->Broken();
+    if (fault_.empty()) fault_ = BrokenRule(session());
     if (fault_.empty()) fault_ = broken_();
-    if (fault_.empty() && line_ == "click PasteEdit\n") fault_ = rules_->BrokenPaste();
+    if (fault_.empty() && line_ == "click PasteEdit\n") fault_ = BrokenPaste(session());
     line_ = fault_.empty() ? NextLine() : std::string();
     if (line_.empty()) return traits_type::eof();
     line_ += '\n';
@@ -196,7 +136,6 @@ class Walk : private std::streambuf {
   const std::function<std::string()> broken_;
   robot::Robot robot_;
   ScriptMaker maker_;
-  std::optional<Rules> rules_;  // as soon as there is a panel
   int lines_left_;
   std::string line_;
   std::string fault_;
@@ -229,7 +168,7 @@ std::string Walk::NextLine() {
       fault_ = "Esc does not lead back";
       return {};
     default:
-      fault_ = rules_->BrokenLabelList();
+      fault_ = BrokenLabelList(session());
       return {};
   }
 }
@@ -246,7 +185,7 @@ std::string Walk::OpenWindow() {
 
 std::string FaultOfWalk(unsigned seed, const robot::HandsFactory& make_hands,
                         std::function<std::string()> broken) {
-  const robot::ScratchFolder folder("no files");
+  const robot::ScratchFolder folder(robot::kScenarios / "files");
   WriteFiles();
   std::string fault = Walk(seed, make_hands, std::move(broken)).Play();
   if (!fault.empty()) fault += " in " + walk_under_way;
@@ -254,7 +193,33 @@ std::string FaultOfWalk(unsigned seed, const robot::HandsFactory& make_hands,
   return fault;
 }
 
-std::string BrokenRule(const Session& session) { return Rules(session).Broken(); }
+std::string BrokenRule(const Session& session) {
+  struct Rule {
+    const char* text;
+    bool holds;
+  };
+  const int rows = session.Table1.Rows();
+  const auto open_boxes = std::ranges::count_if(kBoxes, [&](std::string_view name) {
+    const Control* const box = session.ProgrammingPanel.Find(name);
+    return box != nullptr && box->visible();
+  });
+  const Rule rules[] = {
+      {"StringTable is as tall as Table1", session.StringTable.Rows() == rows},
+      {"EditStringTable is as long as EditTable",
+       session.EditStringTable.Count() == session.EditTable.Rows()},
+      {"LabelEqtList is as long as LabelCombo",
+       session.LabelEqtList.Count() == session.LabelCombo.Count()},
+      {"XXEqtList is as long as XXCombo", session.XXEqtList.Count() == session.XXCombo.Count()},
+      {"CurrentRow is in the table", session.CurrentRow >= 0 && session.CurrentRow < rows},
+      {"the commands are offered when the panel is ready",
+       session.menu.SaveFile.enabled() == session.IsReady()},
+      {"one box is open at most", open_boxes <= 1},
+  };
+  for (const Rule& rule : rules) {
+    if (!rule.holds) return std::string("no more: ") + rule.text;
+  }
+  return {};
+}
 
 void TellScriptOnDeath() {
   for (const int signal : {SIGABRT, SIGINT, SIGTERM}) {

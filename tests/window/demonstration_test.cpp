@@ -54,7 +54,10 @@ TEST_F(DemonstrationTest, EveryOneEndsInTheWindowAsOnTheModels) {
     std::istringstream script(file.readAll().toStdString());
     std::ostringstream transcript;
     robot::Robot robot(script, transcript, transcript);
-    robot.Play();
+    EXPECT_EQ(robot.Play(), robot::kPlayed) << transcript.str();
+    for (const char* fault : {"refused", "-> cancel"}) {
+      EXPECT_EQ(transcript.str().find(fault), std::string::npos) << transcript.str();
+    }
     session().FileChanged = false;
     show_me_.Begin(name);
     ASSERT_TRUE(QTest::qWaitFor([this] { return IsOver(); }, kLongestMs)) << name;

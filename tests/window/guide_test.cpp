@@ -8,30 +8,22 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <set>
 
 #include "window/help.h"
 
 namespace quilla {
 namespace {
 
-std::set<QString> AnchorsOf(const GuidePage& page) {
-  std::set<QString> anchors;
-  for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next()) {
-    for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
-      for (const QString& name : piece.fragment().charFormat().anchorNames()) anchors.insert(name);
-    }
-  }
-  return anchors;
+bool HasAnchor(const GuidePage& page, const QString& name) {
+  return page.toHtml().contains("<a name=\"" + name + '"');
 }
 
 TEST(GuideTest, HasTheSectionsOfAllTasks) {
   GuidePage page(nullptr);
   page.TurnTo({});
-  const std::set<QString> anchors = AnchorsOf(page);
   const auto expect = [&](const char* window, int state) {
     const QString section = SectionOf(Form(window), PanelState{state});
-    EXPECT_TRUE(section.isEmpty() || anchors.contains(section)) << section.toStdString();
+    EXPECT_TRUE(section.isEmpty() || HasAnchor(page, section)) << section.toStdString();
   };
   for (int state = 1; state <= 35; ++state) expect(kProgrammingPanel, state);
   for (const char* window : {kDataDialog, kRenumberDialog, kPrintInfo, kWatchWindowDialog}) {
@@ -52,12 +44,11 @@ TEST(GuideTest, TurnsToASectionAndFollowsItsLinks) {
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QString text = QString::fromUtf8(file.readAll());
   static const QRegularExpression kLink(R"(\]\((?!https:)([^)#]*)#?([^)]*)\))");
-  const std::set<QString> anchors = AnchorsOf(page);
   for (auto each = kLink.globalMatch(text); each.hasNext();) {
     const auto link = each.next();
     const QString path = link.captured(1);
     if (path.isEmpty()) {
-      EXPECT_TRUE(anchors.contains(link.captured(2))) << qPrintable(link.captured());
+      EXPECT_TRUE(HasAnchor(page, link.captured(2))) << qPrintable(link.captured());
     }
     if (path.endsWith(".png")) {
       const QUrl url = page.source().resolved(path);

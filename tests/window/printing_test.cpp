@@ -87,7 +87,7 @@ TEST_F(PrintTest, ARunIsOneDocumentWithEveryRowAtItsPage) {
   session().Table1.SetTextMatrix(5, kCommentColumn, wide);
   session().Table1.SetTextMatrix(6, kCommentColumn, wide + wide + wide + wide);
   WhenOpen<QFileDialog>([this](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.selectedFiles(), QStringList(QDir::current().filePath("Pgm1.pdf")));
+    EXPECT_EQ(QFileInfo(dialog.selectedFiles().at(0)).fileName(), "Pgm1.pdf");
     ChooseFile(dialog, PathOf("run"));
   });
   ClickPrint();

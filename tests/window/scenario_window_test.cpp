@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
-#include <filesystem>
 #include <memory>
 #include <sstream>
 
@@ -16,9 +15,6 @@
 
 namespace quilla::robot {
 namespace {
-
-const std::filesystem::path kScenarios =
-    std::filesystem::path(QUILLA_SOURCE_DIR) / "tests" / "scenarios";
 
 class CheckedHands : public WidgetHands {
  public:
@@ -52,7 +48,7 @@ TEST_P(ScenarioWindowTest, GivesItsTranscript) {
   EXPECT_EQ(FirstDifference(GetParam().transcript, transcript.str()), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ScenarioWindowTest, testing::ValuesIn(ScenariosIn(kScenarios)),
+INSTANTIATE_TEST_SUITE_P(All, ScenarioWindowTest, testing::ValuesIn(AllScenarios()),
                          [](const auto& scenario) { return scenario.param.name; });
 
 TEST(WalkWindowTest, WidgetsShowTheModelsWhateverTheUserDoes) {

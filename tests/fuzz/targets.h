@@ -1,15 +1,17 @@
 // The fuzzing targets: each takes any bytes, and ends the process where what must hold does not.
-#ifndef QUILLA_TESTS_FUZZ_FUZZ_H_
-#define QUILLA_TESTS_FUZZ_FUZZ_H_
+#ifndef QUILLA_FUZZ_TARGETS_H_
+#define QUILLA_FUZZ_TARGETS_H_
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 #include <string_view>
 
 namespace quilla::fuzz {
+
+struct Target {
+  std::string name;  // that of the folder of its corpus too
+  void (*take)(std::string_view input);
+};
 
 void HexFile(std::string_view input);
 void ProjectFile(std::string_view input);
@@ -17,19 +19,19 @@ void Items(std::string_view input);
 void Script(std::string_view input);
 void Simulator(std::string_view input);
 
+const Target kTargets[] = {{"hex", HexFile},
+                           {"project", ProjectFile},
+                           {"items", Items},
+                           {"script", Script},
+                           {"simulator", Simulator}};
+
 inline void Require(bool condition) {
   if (!condition) std::abort();
 }
 
 /// Writes a file of these bytes and gives its path, the same in all runs of the process.
-inline const std::string& FileOf(std::string_view bytes) {
-  static const std::string kPath = (std::filesystem::temp_directory_path() /
-                                    ("quilla-fuzz-" + std::to_string(std::random_device()())))
-                                       .string();
-  std::ofstream(kPath, std::ios::binary) << bytes;
-  return kPath;
-}
+const std::string& FileOf(std::string_view bytes);
 
 }  // namespace quilla::fuzz
 
-#endif  // QUILLA_TESTS_FUZZ_FUZZ_H_
+#endif  // QUILLA_FUZZ_TARGETS_H_

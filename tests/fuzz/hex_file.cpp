@@ -7,22 +7,13 @@
 #include <string>
 #include <string_view>
 
-#include "disassembler/data_dialog.h"
 #include "formats/hex_records.h"
-#include "fuzz/fuzz.h"
+#include "fuzz/targets.h"
+#include "panel/running_program.h"
 #include "platform/number_text.h"
-#include "program/desk.h"
 
 namespace quilla::fuzz {
 namespace {
-
-/// The parts that disassembling takes, joined as the panel joins them.
-struct Workshop : Desk {
-  StateMachine states{session};
-  Origins origins{session, states, rows};
-  AddressAssignment addresses{session, states, rows};
-  DataDialog dialog{session, rows, origins, addresses};
-};
 
 /// The records that bytes of any value make: a count and an address, then so many bytes.
 std::string MakeRecords(std::string_view fields) {
@@ -46,8 +37,7 @@ std::string MakeRecords(std::string_view fields) {
 }
 
 /// Marks run after run of rows, and presses Done.
-void TryOnce(Workshop& shop, std::string_view marks) {
-  Form& form = shop.dialog.form();
+void TryOnce(RunningProgram& program, Form& form, std::string_view marks) {
   if (!form.visible()) return;  // the first try has been good
   auto& table = dynamic_cast<Grid&>(*form.Find("DataTable"));
   for (int row = 1; marks.size() > 1 && row < table.Rows(); marks.remove_prefix(2)) {
@@ -59,10 +49,11 @@ void TryOnce(Workshop& shop, std::string_view marks) {
   Control& done = *form.Find("DoneButton");
   if (!done.enabled()) return;
   done.Choose();
-  shop.outside.clock.PassAll();
-  Require(shop.session.Table1.Rows() == shop.session.StringTable.Rows());
-  Require(shop.session.LabelCombo.Count() == shop.session.LabelEqtList.Count());
-  Require(shop.session.XXCombo.Count() == shop.session.XXEqtList.Count());
+  program.Wait();
+  const Session& session = program.session();
+  Require(session.Table1.Rows() == session.StringTable.Rows());
+  Require(session.LabelCombo.Count() == session.LabelEqtList.Count());
+  Require(session.XXCombo.Count() == session.XXEqtList.Count());
 }
 
 }  // namespace
@@ -73,16 +64,14 @@ void HexFile(std::string_view input) {
       std::min<std::size_t>(static_cast<unsigned char>(input[1]), input.size() - 2);
   const std::string_view marks = input.substr(2, marked);
   const std::string_view rest = input.substr(2 + marked);
-  Workshop shop;
-  shop.outside.file_dialogs.Queue(
-      FileOf(input[0] % 2 == 0 ? std::string(rest) : MakeRecords(rest)));
-  shop.outside.event_loop.play_command = [&] {
-    TryOnce(shop, marks.substr(0, marked / 2));
-    TryOnce(shop, marks.substr(marked / 2));
-    shop.dialog.form().Find("CancelButton")->Choose();
-    return true;
-  };
-  shop.session.menu.DisassembleFile.Choose();
+  RunningProgram program;
+  program.InDialog([&](Form& form) {
+    TryOnce(program, form, marks.substr(0, marked / 2));
+    TryOnce(program, form, marks.substr(marked / 2));
+    form.Find("CancelButton")->Choose();
+  });
+  program.Choose(program.session().menu.DisassembleFile,
+                 FileOf(input[0] % 2 == 0 ? std::string(rest) : MakeRecords(rest)));
 }
 
 }  // namespace quilla::fuzz

@@ -50,6 +50,10 @@ void ProjectFile::SaveFile_Click() {
   try {
     Trapped([this] {
       session_.SetTip("Saving file . . .");
+      // The path is still that of the program before, which nobody has agreed to lose.
+      if (session_.FileOrigin == FileOrigin::kDisassembled) {
+        session_.channels.RetainCopy(session_.ProjectPath);
+      }
       WriteProject();
       SaveDone(Source());
     });

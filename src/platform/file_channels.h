@@ -42,6 +42,8 @@ class FileChannels {
   /// kept; the channel is closed then and the file as it was.
   void OpenOutput(int channel, const std::string& path);
   void OpenInput(int channel, const std::string& path);
+  /// The copy of this file stays when it is written anew the next time.
+  void RetainCopy(const std::string& path) { copies_.Retain(path); }
   /// Closes the channel; nothing on a closed one. Fails with `kWriteFailed` when the disk did not
   /// take all that was written; the channel is closed even then.
   void Close(int channel);

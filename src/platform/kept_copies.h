@@ -21,10 +21,12 @@ class KeptCopies {
   /// Null, with all as it was, where the file cannot be opened or nothing can be kept of it.
   Storage::File Replace(const std::string& path);
   /// The new content is on the disk: the copy goes. It stays where the file could not be read
-  /// before, since nobody has seen what it holds.
+  /// before, since nobody has seen what it holds, and where it was asked to stay.
   void Release(const std::string& path);
   /// Told of files that could be read, and of those that could not.
   void NoteReading(const std::string& path, bool could_be_read);
+  /// The copy stays when the file is written anew the next time.
+  void Retain(const std::string& path) { NoteReading(path, false); }
 
  private:
   struct Copy {

@@ -56,6 +56,11 @@ TEST_F(ProjectFileTest, ItemsStandInTheirOrder) {
   program_.session().Table1.SetTextMatrix(1, kAddressColumn, "8001");  // a save wipes it
   program_.SaveAs("same.baf");
   EXPECT_EQ(BytesOf("same.baf"), bytes);
+  for (const FileOrigin origin : {FileOrigin::kSaved, FileOrigin::kDisassembled}) {
+    program_.session().FileOrigin = origin;
+    program_.session().menu.SaveFile.Click();
+    EXPECT_EQ(fs::exists("same.baf~"), origin == FileOrigin::kDisassembled) << "another program's";
+  }
 }
 
 TEST_F(ProjectFileTest, CutOffAnywhereItIsRefused) {

@@ -1,5 +1,6 @@
 #include "window/grid_view.h"
 
+#include <QCursor>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -188,7 +189,18 @@ void GridView::SyncWithGrid() {
   if (viewport()->cursor().shape() != shape) viewport()->setCursor(shape);
   if (hasFocus() && !currentIndex().isValid()) Land();
   if (press_row_ != kNone || key_anchor_.isValid()) return;
-  ShowRows(grid_.SelectedRows ? grid_.SelectedRows() : MouseRows());
+  ShowRows(SelectedRows());
+}
+
+RowRange GridView::SelectedRows() const {
+  return grid_.SelectedRows ? grid_.SelectedRows() : MouseRows();
+}
+
+int GridView::AnchorOf(int row) const {
+  const RowRange rows = SelectedRows();
+  if (rows.first > rows.last) return row;
+  if (row == rows.first) return rows.last;
+  return row == rows.last ? rows.first : row;
 }
 
 RowRange GridView::MouseRows() const {
@@ -253,6 +265,7 @@ void GridView::DragTo(int y) {
 
 void GridView::EndDrag() {
   scroll_timer_.stop();
+  if (!model_->cursor().isValid()) SetCurrentRow(drag_row_);
   press_row_ = kNone;
   gate_.Enter([&] {
     grid_.ReleaseAt(drag_row_);
@@ -291,6 +304,10 @@ void GridView::Land() {
   selectionModel()->setCurrentIndex(place, QItemSelectionModel::NoUpdate);
 }
 
+void GridView::SetCurrentRow(int row) {
+  selectionModel()->setCurrentIndex(model_->index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
 // Qt moves to hidden cells too, at the ends.
 QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
   const QModelIndex place = QTableView::moveCursor(action, modifiers);
@@ -303,8 +320,13 @@ void GridView::focusInEvent(QFocusEvent* event) {
   const bool is_back = reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason ||
                        reason == Qt::PopupFocusReason;
   const bool comes_to_cursor = !is_back && model_->cursor().isValid();
-  if (comes_to_cursor || !currentIndex().isValid()) Land();
-  scrollTo(currentIndex());
+  if (reason == Qt::MouseFocusReason && !comes_to_cursor) {
+    // Nothing moves away from under the pointer.
+    if (!currentIndex().isValid()) SetCurrentRow(RowNear(mapFromGlobal(QCursor::pos()).y()));
+  } else {
+    if (comes_to_cursor || !currentIndex().isValid()) Land();
+    scrollTo(currentIndex());
+  }
   QTableView::focusInEvent(event);
 }
 
@@ -325,7 +347,8 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   if (!key_anchor_.isValid()) {
     // Where there is a cursor, rows are selected in its column.
     const QModelIndex cursor = model_->cursor();
-    key_anchor_ = cursor.isValid() ? before.siblingAtColumn(cursor.column()) : before;
+    const int column = cursor.isValid() ? cursor.column() : before.column();
+    key_anchor_ = model_->index(AnchorOf(before.row()), column);
   }
   ShowRows(Between(key_anchor_.row(), currentIndex().row()));
 }
@@ -340,7 +363,7 @@ void GridView::keyboardSearch(const QString& digits) {
   const int row = typed.toInt(&is_number, kHexadecimal) + grid_.FixedRows();
   if (!is_number || row >= grid_.Rows()) return;
   typed_ = typed;
-  selectionModel()->setCurrentIndex(model_->index(row, 0), QItemSelectionModel::NoUpdate);
+  SetCurrentRow(row);
   scrollTo(currentIndex(), PositionAtCenter);
 }
 

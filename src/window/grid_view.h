@@ -72,7 +72,11 @@ class GridView : public QTableView {
   void FitExtent();
   /// Makes the cell with the cursor the current one, or else one that can be seen.
   void Land();
+  void SetCurrentRow(int row);
+  /// The other end of the rows that are selected up to this one, or the row itself.
+  int AnchorOf(int row) const;
   void ShowRows(RowRange range);
+  RowRange SelectedRows() const;
   RowRange MouseRows() const;
   void DragTo(int y);
   void EndDrag();

@@ -76,6 +76,15 @@ class ProgramTest : public testing::Test {
   RunningProgram program_;
 };
 
+TEST_F(ProgramTest, TheExamplesComeBackFromTheirHexFiles) {
+  for (const auto& file : std::filesystem::directory_iterator(QUILLA_SOURCE_DIR "/examples")) {
+    if (file.path().extension() != ".baf") continue;
+    SCOPED_TRACE(file.path().stem().string());
+    program_.Open(file.path().string());
+    CheckRoundTrip();
+  }
+}
+
 class RandomProgramsTest : public ProgramTest, public testing::WithParamInterface<unsigned> {
  protected:
   RandomProgramsTest() : random_(GetParam()) {

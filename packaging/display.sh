@@ -20,13 +20,19 @@ end_display() {
   [ -z "$display_processes" ] || kill $display_processes 2>/dev/null || true
 }
 
-# Waits for a window whose title is like $1, and gives it the focus. Fails after $2 seconds, or 60.
+# Waits for a window whose title is like $1, and gives it the focus. Fails after a minute. A search
+# fails also when some other window closes under it, so it is always done again.
 find_window() {
-  timeout "${2:-60}" xdotool search --sync --onlyvisible --name "$1" >/dev/null ||
-    { echo "There is no window '$1'." >&2 && return 1; }
-  sleep 1
-  xdotool search --onlyvisible --name "$1" windowactivate 2>/dev/null
-  sleep 0.5
+  for _ in $(seq 120); do
+    sleep 0.5
+    xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 || continue
+    sleep 1
+    xdotool search --onlyvisible --name "$1" windowactivate 2>/dev/null || continue
+    sleep 0.5
+    return 0
+  done
+  echo "There is no window '$1'." >&2
+  return 1
 }
 
 # Waits until no window has a title like $1. Fails after a minute.

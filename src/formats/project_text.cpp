@@ -38,8 +38,9 @@ std::string ProjectText(const Session& session) {
   for (int row = 0; row < table.Rows(); ++row) {
     for (int column = 0; column < kProgramColumns; ++column) {
       const bool is_kept = column != kAddressColumn || session.IsOrigin(row);
-      AppendLine(text, {FileItem::Text(is_kept ? std::string_view(table.TextMatrix(row, column))
-                                               : std::string_view())});
+      std::string_view cell;
+      if (is_kept) cell = table.TextMatrix(row, column);
+      AppendLine(text, {FileItem::Text(cell)});
     }
     AppendLine(text, {FileItem::Text(session.OperandOf(row))});
   }

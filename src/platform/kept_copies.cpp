@@ -75,7 +75,8 @@ bool KeptCopies::CopyTo(const std::string& copy, const std::string& file) {
   bool done = true;
   do {
     size = from->Read(block.data(), block.size());
-    done = size && to->Write(std::string_view(block).substr(0, *size));
+    const std::string_view content = block;
+    done = size && to->Write(content.substr(0, *size));
   } while (done && *size > 0);
   done = done && to->Flush();
   done = to->Close() && done;

@@ -84,7 +84,7 @@ void FlushFolder(const fs::path& folder) {
 
 #endif
 
-class DiskFile : public StoredFile {
+class DiskFile final : public StoredFile {
  public:
   /// `folder` is that of a new file, else nothing.
   DiskFile(int file, std::optional<fs::path> folder) : file_(file), folder_(std::move(folder)) {}

@@ -75,6 +75,7 @@ EndRequests::~EndRequests() {
   }
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): a request comes to the object
 bool EndRequests::has_come() const { return g_noted != 0; }
 
 void EndRequests::TakeByte() const {

@@ -218,8 +218,8 @@ void Bind(FormMirror& mirror, TextBox& text_box, QLineEdit& widget) {
     mirror.gate().Enter([&] { text_box.Edit(FromQt(text)); });
     ShowText(text_box, widget);
     const QString left = widget.text();
-    if (left != text)
-      widget.setCursorPosition(static_cast<int>(std::max<qsizetype>(left.size() - behind, 0)));
+    if (left == text) return;
+    widget.setCursorPosition(static_cast<int>(std::max<qsizetype>(left.size() - behind, 0)));
   });
 }
 

@@ -76,7 +76,8 @@ bool FileChannels::File::TakeIf(char c) {
 
 template <typename Find>
 std::string_view FileChannels::File::TakeFromBlock(const Find& find) {
-  std::string_view text = std::string_view(read).substr(taken);
+  std::string_view text = read;
+  text.remove_prefix(taken);
   text = text.substr(0, find(text));
   taken += text.size();
   return text;

@@ -64,8 +64,8 @@ void VariableEntry::XXAcceptButton_Click() {
 }
 
 void VariableEntry::WriteOperand(const std::string& variable, const std::string& equivalent) {
-  line_.AddOperand("   ", variable,
-                   VariableBytes(std::string_view(equivalent).substr(0, kByteDigits)));
+  const std::string_view digits = equivalent;
+  line_.AddOperand("   ", variable, VariableBytes(digits.substr(0, kByteDigits)));
 }
 
 }  // namespace quilla

@@ -19,10 +19,10 @@
 namespace quilla::bench {
 namespace {
 
-constexpr const char* kPath = "image.hex";
+constexpr const char* kImage = "image.hex";
 constexpr int kLxiB = 0x01;
 constexpr int kInstructionBytes = 3;
-constexpr int kByteValues = 0x100;
+constexpr int kOperandValues = 0x100;
 
 /// The records of an image of LXI B instructions from address 0 on, each with another operand.
 std::vector<std::string> MakeRecords(int bytes) {
@@ -33,7 +33,8 @@ std::vector<std::string> MakeRecords(int bytes) {
       records.push_back(":" + PaddedHexText(count, kByteDigits) + AddressText(address) + "00");
     }
     const int operand = address / kInstructionBytes;
-    const int values[kInstructionBytes] = {kLxiB, operand % kByteValues, operand / kByteValues};
+    const int values[kInstructionBytes] = {kLxiB, operand % kOperandValues,
+                                           operand / kOperandValues};
     records.back() += PaddedHexText(values[address % kInstructionBytes], kByteDigits);
   }
   records.push_back(kEndRecord);
@@ -44,10 +45,10 @@ std::vector<std::string> MakeRecords(int bytes) {
 Measure PlainReadOf(const std::vector<std::string>& records) {
   constexpr double kMostReads = 10;
   constexpr int kTimes = 8;
-  std::ofstream file(kPath, std::ios::binary);
+  std::ofstream file(kImage, std::ios::binary);
   for (const std::string& record : records) file << '"' << record << "00\"\r\n";
   const auto read = [] {
-    std::ifstream input(kPath, std::ios::binary);
+    std::ifstream input(kImage, std::ios::binary);
     for (std::string line; std::getline(input, line);) benchmark::DoNotOptimize(line.data());
   };
   return {"x_fstream", read, kMostReads, kTimes};
@@ -65,7 +66,7 @@ void BM_ListBytes(benchmark::State& state) {
 BENCHMARK(BM_ListBytes)->Apply(OverTableSizes);
 
 /// The session with the parts that the stages need.
-struct Parts {
+struct StageParts {
   std::ostream transcript{nullptr};
   robot::ScriptedOutside outside{transcript};
   Session session{outside.ports};
@@ -95,7 +96,7 @@ struct Disassembly {
     for (int row = 0; row < session.Table1.Rows(); ++row) ApplyDefaultComment(session, row);
   }
 
-  Parts parts;
+  StageParts parts;
   std::vector<MarkedByte> bytes;
   ProgramLayout layout;
 };

@@ -30,8 +30,6 @@ struct Parts {
   Assembler assembler{session, states, addresses, strings, rescue};
 };
 
-int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(0)); }
-
 void BM_AssignAddress(benchmark::State& state) {
   Parts parts(RowsOf(state));
   const Session& session = parts.session;

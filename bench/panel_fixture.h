@@ -30,6 +30,9 @@ inline constexpr int kLabelsPerGroup = 2;
 inline constexpr int kJumpRow = 13;
 inline constexpr int kFreeRows[] = {5, 8};
 
+/// The rows of the table that a benchmark is run with.
+inline int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(0)); }
+
 /// A name for a string: a letter and a number.
 std::string NumberedName(char letter, int number);
 

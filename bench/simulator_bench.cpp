@@ -19,7 +19,7 @@
 namespace quilla {
 namespace {
 
-constexpr int kFirstAddress = 0x2000;
+constexpr int kStart = 0x2000;
 
 struct ProgramRow {
   int address;
@@ -69,7 +69,7 @@ void BM_SimulatorStep(benchmark::State& state) {
   for (const ProgramRow& content : kMixedLoop) WriteRow(program, row++, content);
   WriteProgram(program, tables);
   Machine machine(tables, IgnoreBox);
-  machine.StartAt(AddressText(kFirstAddress));
+  machine.StartAt(AddressText(kStart));
   while (state.KeepRunning()) machine.Execute();
   state.SetItemsProcessed(state.iterations());
 }

@@ -15,8 +15,6 @@
 namespace quilla::bench {
 namespace {
 
-int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(0)); }
-
 constexpr const char* kProject = "program.baf";
 constexpr const char* kPlainFile = "plain";
 

@@ -16,6 +16,10 @@ namespace quilla {
 
 #ifdef _WIN32
 
+namespace {
+void EndIfAsked() {}
+}  // namespace
+
 EndRequests::EndRequests(Input /*input*/) {}
 EndRequests::~EndRequests() = default;
 bool EndRequests::has_come() const { return false; }
@@ -54,6 +58,12 @@ void Handle(void (*handler)(int), int flags) {
   }
 }
 
+/// Lets every request end the program, also one that has come before.
+void EndIfAsked() {
+  Handle(SIG_DFL, 0);
+  if (g_noted != 0) raise(g_noted);
+}
+
 }  // namespace
 
 EndRequests::EndRequests(Input input) {
@@ -83,20 +93,14 @@ void EndRequests::TakeByte() const {
   [[maybe_unused]] const auto taken = read(ends_[0], &byte, 1);
 }
 
-void EndRequests::Obey() {
-  Handle(SIG_DFL, 0);
-  if (has_come()) raise(g_noted);
-}
+void EndRequests::Obey() { EndIfAsked(); }
 
 void LetLongFilesFail() { std::signal(SIGXFSZ, SIG_IGN); }
 
 #endif
 
 void WaitForTheEnd() {
-#ifndef _WIN32
-  Handle(SIG_DFL, 0);
-  if (g_noted != 0) raise(g_noted);
-#endif
+  EndIfAsked();
   while (true) std::this_thread::sleep_for(std::chrono::hours(1));
 }
 

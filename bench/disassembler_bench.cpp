@@ -65,17 +65,6 @@ void BM_ListBytes(benchmark::State& state) {
 }
 BENCHMARK(BM_ListBytes)->Apply(OverTableSizes);
 
-/// The session with the parts that the stages need.
-struct StageParts {
-  std::ostream transcript{nullptr};
-  robot::ScriptedOutside outside{transcript};
-  Session session{outside.ports};
-  Rows rows{session};
-  StateMachine states{session};
-  Origins origins{session, states, rows};
-  AddressAssignment addresses{session, states, rows};
-};
-
 /// An image whose bytes are all marked, and what the stages make of it.
 struct Disassembly {
   explicit Disassembly(int size) : bytes(ListBytes(MakeRecords(size))) {
@@ -96,7 +85,7 @@ struct Disassembly {
     for (int row = 0; row < session.Table1.Rows(); ++row) ApplyDefaultComment(session, row);
   }
 
-  StageParts parts;
+  SessionParts parts;
   std::vector<MarkedByte> bytes;
   ProgramLayout layout;
 };

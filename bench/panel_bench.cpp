@@ -14,18 +14,11 @@ namespace {
 
 void Nothing() {}
 
-/// The session with the parts that have the procedures, joined as the panel joins them.
-struct Parts {
+/// A session with a full program, and the parts that assemble it.
+struct Parts : SessionParts {
   explicit Parts(int row_count) { FillProgram(session, row_count); }
 
-  std::ostream transcript{nullptr};
-  robot::ScriptedOutside outside{transcript};
-  Session session{outside.ports};
-  Rows rows{session};
-  StateMachine states{session};
-  Origins origins{session, states, rows};
   StringLists strings{session, states};
-  AddressAssignment addresses{session, states, rows};
   RescueFile rescue{session};
   Assembler assembler{session, states, addresses, strings, rescue};
 };

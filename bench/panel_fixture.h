@@ -12,9 +12,13 @@
 #include <vector>
 
 #include "panel/programming_panel.h"
+#include "program/rows.h"
 #include "program/session.h"
+#include "program/state_machine.h"
 #include "robot/model_hands.h"
 #include "robot/scripted_outside.h"
+#include "symbols/address_assignment.h"
+#include "symbols/origins.h"
 
 namespace quilla::bench {
 
@@ -29,6 +33,18 @@ inline constexpr int kLabelsPerGroup = 2;
 /// The row of a group with its jump, and two of its rows without an instruction.
 inline constexpr int kJumpRow = 13;
 inline constexpr int kFreeRows[] = {5, 8};
+
+/// A session with the parts that the procedures on whole tables need, joined as the panel joins
+/// them.
+struct SessionParts {
+  std::ostream transcript{nullptr};
+  robot::ScriptedOutside outside{transcript};
+  Session session{outside.ports};
+  Rows rows{session};
+  StateMachine states{session};
+  Origins origins{session, states, rows};
+  AddressAssignment addresses{session, states, rows};
+};
 
 /// The rows of the table that a benchmark is run with.
 inline int RowsOf(const benchmark::State& state) { return static_cast<int>(state.range(0)); }

@@ -11,6 +11,7 @@
 
 #include "window/accessible_names.h"
 #include "window/colors.h"
+#include "window/entries_model.h"
 #include "window/key_button.h"
 #include "window/qt_text.h"
 
@@ -94,15 +95,6 @@ void ShowText(const TextBox& text_box, QLineEdit& widget) {
   const int cursor = widget.cursorPosition();
   widget.setText(text);
   widget.setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
-}
-
-void ShowEntries(const ComboBox& combo, QComboBox& widget) {
-  QStringList entries;
-  entries.reserve(combo.Count());
-  for (const std::string& item : combo.items()) entries << ToQt(item);
-  widget.clear();
-  widget.addItems(entries);
-  widget.setCurrentIndex(combo.index());
 }
 
 bool IsPress(const QEvent& event) {
@@ -226,13 +218,17 @@ void Bind(FormMirror& mirror, TextBox& text_box, QLineEdit& widget) {
 // A list may change thousands of times while nobody sees it: its entries are brought in line when a
 // handler is over and the list is on view.
 void Bind(FormMirror& mirror, ComboBox& combo, QComboBox& widget) {
+  auto* const entries = new EntriesModel(combo, &widget);
+  widget.setModel(entries);
   const auto outdated = std::make_shared<bool>(true);
   Mirror& shown = Show(mirror, combo, widget, [&, outdated](Property property) {
     if (property == Property::kItems || property == Property::kIndex) *outdated = true;
     if (property == Property::kActive) ShowActive(widget, combo.active());
   });
-  const auto bring_in_line = [&, outdated] {
-    if (std::exchange(*outdated, false)) ShowEntries(combo, widget);
+  const auto bring_in_line = [&, entries, outdated] {
+    if (!std::exchange(*outdated, false)) return;
+    entries->Renew();
+    widget.setCurrentIndex(combo.index());
   };
   QObject::connect(&widget, &QComboBox::activated, &shown, [&](int position) {
     mirror.gate().Enter([&] { combo.Pick(position); });

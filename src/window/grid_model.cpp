@@ -116,7 +116,6 @@ void GridModel::ReportTouchedRows() {
   const int last = std::min(touched_last_, grid_.Rows() - 1);
   if (first > last) return;
   Q_EMIT dataChanged(index(first, 0), index(last, grid_.Cols() - 1));
-  Q_EMIT headerDataChanged(Qt::Vertical, first, last);
   if (first < grid_.FixedRows()) Q_EMIT headerDataChanged(Qt::Horizontal, 0, grid_.Cols() - 1);
 }
 

@@ -25,6 +25,25 @@ QSize Gutter::sizeHint() const {
   return {static_cast<int>(digits) * fontMetrics().horizontalAdvance(u'0') + 2 * kCellMargin, 0};
 }
 
+// Qt's own header goes over all rows that it is told of, in sight or not.
+void Gutter::setModel(QAbstractItemModel* model) {
+  QHeaderView::setModel(model);
+  connect(model, &QAbstractItemModel::dataChanged, this,
+          [this](const QModelIndex& first, const QModelIndex& last) {
+            RepaintRows(first.row(), last.row());
+          });
+}
+
+void Gutter::RepaintRows(int first, int last) {
+  const int top = std::max(first, visualIndexAt(0));
+  const int bottom_on_view = visualIndexAt(viewport()->height() - 1);
+  const int bottom = bottom_on_view < 0 ? last : std::min(last, bottom_on_view);
+  if (top > bottom) return;
+  const int start = sectionViewportPosition(top);
+  const int end = sectionViewportPosition(bottom) + sectionSize(bottom);
+  viewport()->update(0, start, viewport()->width(), end - start);
+}
+
 void Gutter::paintSection(QPainter* painter, const QRect& area, int row) const {
   const bool has_cursor = static_cast<const GridModel*>(model())->cursor().row() == row;
   QFont letters = font();

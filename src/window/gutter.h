@@ -13,9 +13,14 @@ class Gutter : public QHeaderView {
   explicit Gutter(QWidget* parent);
 
   QSize sizeHint() const override;
+  void setModel(QAbstractItemModel* model) override;
 
  protected:
   void paintSection(QPainter* painter, const QRect& area, int row) const override;
+
+ private:
+  /// Repaints those of the rows that are on view.
+  void RepaintRows(int first, int last);
 };
 
 }  // namespace quilla

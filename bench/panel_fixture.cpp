@@ -11,6 +11,7 @@
 #include "program/default_comment.h"
 #include "program/opcode_cell.h"
 #include "program/rows.h"
+#include "robot/model_hands.h"
 
 namespace quilla::bench {
 namespace {
@@ -74,13 +75,6 @@ void WriteGroup(Session& session, int group, int labels) {
   }
 }
 
-/// Time of the processor: what other programs take of it meanwhile does not count.
-double SecondsOf(const std::function<void()>& work, int times = 1) {
-  const std::clock_t start = std::clock();
-  for (int i = 0; i < times; ++i) work();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC / times;
-}
-
 }  // namespace
 
 std::string NumberedName(char letter, int number) {
@@ -108,7 +102,12 @@ void FillProgram(Session& session, int rows) {
   session.LastLine = rows - 1;
 }
 
-PanelFixture::PanelFixture(int rows) {
+std::unique_ptr<robot::Hands> MakeModelHands(robot::ScriptedEventLoop& event_loop) {
+  return std::make_unique<robot::ModelHands>(event_loop);
+}
+
+PanelFixture::PanelFixture(int rows, const HandsMaker& make_hands)
+    : rows_(rows), hands_(make_hands(outside_.event_loop)) {
   outside_.event_loop.Show(panel_.form());
   FillProgram(session(), rows);
   AssignAddresses();
@@ -126,7 +125,27 @@ Form& PanelFixture::dialog(std::string_view name) {
 }
 
 void PanelFixture::SelectRows(int first, int last) {
-  hands_.Drag(session().Table1, {first, kMnemonicColumn}, {last, kMnemonicColumn});
+  hands_->Drag(session().Table1, {first, kMnemonicColumn}, {last, kMnemonicColumn});
+}
+
+void PanelFixture::CopyRows(int count) {
+  SelectRows(1, count);
+  Click(session().menu.CopyEdit);
+  ClickCell(session().Table1, PasteRow(), kMnemonicColumn);
+}
+
+void PanelFixture::DeletePasted() {
+  const int pasted = PastedRows();
+  if (pasted == 0) return;
+  SelectRows(PasteRow(), PasteRow() + pasted - 1);
+  Click(session().menu.DeleteEdit);
+  ClickCell(session().Table1, PasteRow(), kMnemonicColumn);
+}
+
+double SecondsOf(const std::function<void()>& work, int times) {
+  const std::clock_t start = std::clock();
+  for (int i = 0; i < times; ++i) work();
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC / times;
 }
 
 Measure PassOver(const Session& session) {

@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include <functional>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@
 #include "program/rows.h"
 #include "program/session.h"
 #include "program/state_machine.h"
-#include "robot/model_hands.h"
+#include "robot/hands.h"
 #include "robot/scripted_outside.h"
 #include "symbols/address_assignment.h"
 #include "symbols/origins.h"
@@ -64,31 +65,53 @@ Model& Find(const Form& form, std::string_view name, int index = Control::kNoInd
   return dynamic_cast<Model&>(*form.Find(name, index));
 }
 
+/// Makes the hands for a panel that is not shown yet.
+using HandsMaker = std::function<std::unique_ptr<robot::Hands>(robot::ScriptedEventLoop&)>;
+
+std::unique_ptr<robot::Hands> MakeModelHands(robot::ScriptedEventLoop& event_loop);
+
 /// The program in a panel of its own, its addresses assigned, and the hands to work on it.
 class PanelFixture {
  public:
-  explicit PanelFixture(int rows);
+  explicit PanelFixture(int rows, const HandsMaker& make_hands = MakeModelHands);
 
   Session& session() { return panel_.session(); }
   robot::ScriptedOutside& outside() { return outside_; }
   Form& form() { return panel_.form(); }
   Form& dialog(std::string_view name);
 
-  void Click(Control& control) { hands_.Click(control); }
+  void Click(Control& control) { hands_->Click(control); }
   void ClickCell(Grid& grid, int row, int column) {
-    hands_.Drag(grid, {row, column}, {row, column});
+    hands_->Drag(grid, {row, column}, {row, column});
   }
   /// Drags over the mnemonics of these rows.
   void SelectRows(int first, int last);
   /// Assigns all addresses, as the menu command does.
   void AssignAddresses();
 
+  /// The first row of the group in the middle of the table, and the row there to paste at.
+  int MiddleRow() const { return rows_ / 2; }
+  int PasteRow() const { return MiddleRow() + kFreeRows[0]; }
+  /// Copies so many rows to the clipboard, and moves the cursor to the middle.
+  void CopyRows(int count);
+  void CopyTenth() { CopyRows(rows_ / 10); }
+  /// How many rows have been pasted into the middle of the table.
+  int PastedRows() { return session().Table1.Rows() - rows_; }
+  /// Deletes them, and moves the cursor back.
+  void DeletePasted();
+  bool IsTenthPasted() { return PastedRows() == rows_ / 10; }
+
  private:
+  int rows_;
   std::ostream transcript_{nullptr};
   robot::ScriptedOutside outside_{transcript_};
   ProgrammingPanel panel_{outside_.ports};
-  robot::ModelHands hands_{outside_.event_loop};
+  std::unique_ptr<robot::Hands> hands_;
 };
+
+/// The time of the processor that `work` takes, done so many times, for each of them: what other
+/// programs take of it meanwhile does not count.
+double SecondsOf(const std::function<void()>& work, int times = 1);
 
 /// Plain work that a task is held against: its time is the unit, `most` of it the limit.
 struct Measure {

@@ -75,39 +75,12 @@ void BM_OpenFile(benchmark::State& state) {
 }
 BENCHMARK(BM_OpenFile)->Apply(OverTableSizes);
 
-/// The first row of the group in the middle of the table.
-int MiddleOf(const benchmark::State& state) { return RowsOf(state) / 2; }
-
-int PasteRow(const benchmark::State& state) { return MiddleOf(state) + kFreeRows[0]; }
-
-/// Copies a tenth of the table to the clipboard, and moves the cursor to the middle.
-void CopyTenth(PanelFixture& panel, const benchmark::State& state) {
-  Session& session = panel.session();
-  panel.SelectRows(1, RowsOf(state) / 10);
-  panel.Click(session.menu.CopyEdit);
-  panel.ClickCell(session.Table1, PasteRow(state), kMnemonicColumn);
-}
-
-/// Deletes the rows that have been pasted into the middle of the table.
-void DeletePasted(PanelFixture& panel, const benchmark::State& state) {
-  Session& session = panel.session();
-  const int pasted = session.Table1.Rows() - RowsOf(state);
-  if (pasted == 0) return;
-  panel.SelectRows(PasteRow(state), PasteRow(state) + pasted - 1);
-  panel.Click(session.menu.DeleteEdit);
-  panel.ClickCell(session.Table1, PasteRow(state), kMnemonicColumn);
-}
-
-bool IsPasted(PanelFixture& panel, const benchmark::State& state) {
-  return panel.session().Table1.Rows() == RowsOf(state) + RowsOf(state) / 10;
-}
-
 void BM_Paste(benchmark::State& state) {
   PanelFixture panel(RowsOf(state));
-  CopyTenth(panel, state);
+  panel.CopyTenth();
   Run(
-      state, {PassOver(panel.session())}, [&] { DeletePasted(panel, state); },
-      [&] { panel.Click(panel.session().menu.PasteEdit); }, [&] { return IsPasted(panel, state); });
+      state, {PassOver(panel.session())}, [&] { panel.DeletePasted(); },
+      [&] { panel.Click(panel.session().menu.PasteEdit); }, [&] { return panel.IsTenthPasted(); });
 }
 BENCHMARK(BM_Paste)->Apply(OverTableSizes);
 
@@ -118,17 +91,17 @@ void BM_PasteRenaming(benchmark::State& state) {
   Run(
       state, {PassOver(session)},
       [&] {
-        DeletePasted(panel, state);
+        panel.DeletePasted();
         panel.Click(session.menu.DeleteUnusedLabels);
         panel.AssignAddresses();
-        CopyTenth(panel, state);
+        panel.CopyTenth();
         session.NextLabelNumber = 1;
         for (int i = 0; i < session.LabelEqtList.Count(); ++i) {
           session.LabelEqtList.Set(i, kUnknownAddress);
         }
       },
       [&] { panel.Click(session.menu.PasteEdit); },
-      [&] { return IsPasted(panel, state) && session.LabelCombo.Find("a1") >= 0; });
+      [&] { return panel.IsTenthPasted() && session.LabelCombo.Find("a1") >= 0; });
 }
 BENCHMARK(BM_PasteRenaming)->Apply(OverTableSizes);
 
@@ -185,14 +158,14 @@ void BM_PlaceLabel(benchmark::State& state) {
       [&] {
         panel.Click(done);
         panel.Click(session.menu.PlaceLabelTool);
-        panel.ClickCell(session.Table1, MiddleOf(state) + kFreeRows[free_row ^= 1], kLabelColumn);
+        panel.ClickCell(session.Table1, panel.MiddleRow() + kFreeRows[free_row ^= 1], kLabelColumn);
         panel.Click(known);
         session.PlaceCombo.Pick(session.PlaceCombo.Count() / 2);
         panel.outside().boxes.Queue(BoxAnswer::kYes);
       },
       [&] { panel.Click(place); },
       [&] {
-        const int row = MiddleOf(state) + kFreeRows[free_row];
+        const int row = panel.MiddleRow() + kFreeRows[free_row];
         return !session.Table1.TextMatrix(row, kLabelColumn).empty();
       });
 }

@@ -7,8 +7,8 @@ Quilla::Quilla(Outside& outside) : outside_(outside) {
 }
 
 void Quilla::Start() {
-  outside_.event_loop.Show(OpenForm_);
   OpenTimer_.Enable();
+  outside_.event_loop.Show(OpenForm_);
 }
 
 void Quilla::MakePanel() {

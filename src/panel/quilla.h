@@ -19,7 +19,7 @@ class Quilla {
  public:
   explicit Quilla(Outside& outside);
 
-  /// Shows the splash; its timer does the rest.
+  /// Shows the splash; its timer, which runs from its loading on, does the rest.
   void Start();
 
   /// Makes the main panel ahead of its time, for whoever has nothing else to do while the splash

@@ -3,6 +3,12 @@
 #include <algorithm>
 
 namespace quilla {
+namespace {
+
+/// A timer that is held looks again so soon whether it may go.
+constexpr int kHeldMs = 1;
+
+}  // namespace
 
 void QtClock::Start(Timer& timer) {
   std::unique_ptr<QTimer>& qt_timer = timers_[&timer];
@@ -10,10 +16,17 @@ void QtClock::Start(Timer& timer) {
     qt_timer = std::make_unique<QTimer>();
     qt_timer->setSingleShot(true);
     qt_timer->setTimerType(Qt::PreciseTimer);
-    QObject::connect(qt_timer.get(), &QTimer::timeout,
-                     [this, &timer] { gate_.Enter([&timer] { timer.Expire(); }); });
+    QObject::connect(qt_timer.get(), &QTimer::timeout, [this, &timer] { Expire(timer); });
   }
   qt_timer->start(timer.interval_ms());
+}
+
+void QtClock::Expire(Timer& timer) {
+  if (held_) {
+    timers_.at(&timer)->start(kHeldMs);
+  } else {
+    gate_.Enter([&timer] { timer.Expire(); });
+  }
 }
 
 void QtClock::Stop(Timer& timer) {

@@ -19,9 +19,15 @@ class QtClock : public Clock {
   void Stop(Timer& timer) override;
   /// Whether no timer is enabled.
   bool IsAtRest() const;
+  /// Keeps timers that are due waiting until they are let go.
+  void Hold() { held_ = true; }
+  void LetGo() { held_ = false; }
 
  private:
+  void Expire(Timer& timer);
+
   Gate& gate_;
+  bool held_ = false;
   std::unordered_map<const Timer*, std::unique_ptr<QTimer>> timers_;
 };
 

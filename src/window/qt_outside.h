@@ -2,14 +2,10 @@
 #ifndef QUILLA_WINDOW_QT_OUTSIDE_H_
 #define QUILLA_WINDOW_QT_OUTSIDE_H_
 
-#include <QApplication>
-#include <QTimer>
-
 #include "platform/outside.h"
 #include "system/disk_storage.h"
 #include "window/gate.h"
 #include "window/port_switch.h"
-#include "window/program_icon.h"
 #include "window/qt_clock.h"
 #include "window/qt_dialogs.h"
 #include "window/qt_event_loop.h"
@@ -21,11 +17,6 @@ namespace quilla {
 
 class QtOutside {
  public:
-  /// The icon is drawn while the splash stands, which has none.
-  QtOutside() {
-    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(ProgramIcon()); });
-  }
-
   Outside& ports() { return ports_; }
   Gate& gate() { return gate_; }
   PortSwitch& serial_port() { return serial_port_; }

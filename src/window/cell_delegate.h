@@ -22,7 +22,7 @@ class CellDelegate : public QAbstractItemDelegate {
   /// Has the texts of a column, which are sentences, not in fixed pitch as the others are.
   void set_prose_column(int column) { prose_column_ = column; }
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+  void paint(QPainter* painter, const QStyleOptionViewItem& cell,
              const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   /// Shows the whole text of a cell that is too narrow for it.

@@ -57,6 +57,7 @@ GridView::GridView(Gate& gate, Grid& grid, QWidget* parent)
   setEditTriggers(NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  setShowGrid(false);
   setWordWrap(false);
   setTabKeyNavigation(false);
   setFocusPolicy(Qt::TabFocus);

@@ -1,5 +1,6 @@
 #include "window/key_button.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -29,10 +30,18 @@ KeyButton::KeyButton(QWidget* parent) : PanelButton(parent) {
 }
 
 QSize KeyButton::sizeHint() const {
+  if (hint_.isValid() && hinted_ == text()) return hint_;
+  hinted_ = text();
   const QFontMetrics metrics = fontMetrics();
   const int width =
-      std::max(metrics.horizontalAdvance(text()), kFewestDigits * metrics.horizontalAdvance(u'0'));
-  return {width + 2 * kSidePadding, std::max(metrics.height() + 2 * kTopPadding, kLeastKeyHeight)};
+      std::max(metrics.horizontalAdvance(hinted_), kFewestDigits * metrics.horizontalAdvance(u'0'));
+  hint_ = {width + 2 * kSidePadding, std::max(metrics.height() + 2 * kTopPadding, kLeastKeyHeight)};
+  return hint_;
+}
+
+void KeyButton::changeEvent(QEvent* event) {
+  PanelButton::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) hint_ = QSize();
 }
 
 }  // namespace quilla

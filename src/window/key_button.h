@@ -28,6 +28,14 @@ class KeyButton : public PanelButton {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  // The hint, for which the layouts ask many times, and the caption that it was made for.
+  mutable QSize hint_;
+  mutable QString hinted_;
 };
 
 }  // namespace quilla

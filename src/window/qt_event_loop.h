@@ -29,6 +29,8 @@ class QtEventLoop : public EventLoop {
 
   /// Takes all windows down, to be done before the forms go.
   void DestroyWindows() { windows_.clear(); }
+  /// Takes the window of a form that will not be shown again down.
+  void DiscardWindow(const Form& form) { windows_.erase(&form); }
   /// The window of a form, made if need be, ahead of its being shown.
   QWidget& MadeWindowOf(Form& form);
   /// The window of a form; null while it was never made.

@@ -98,6 +98,7 @@ void SplashWindow::paintEvent(QPaintEvent* /*event*/) {
   painter.setFont(font);
   painter.setPen(kPrint);
   painter.drawText(chip, Qt::AlignCenter, "Quilla");
+  is_painted_ = true;
   Q_EMIT Painted();
 }
 

@@ -14,15 +14,21 @@ class SplashWindow : public QWidget {
  public:
   SplashWindow(Gate& gate, EventLoop& event_loop, Form& form);
 
+  bool is_painted() const { return is_painted_; }
+
  Q_SIGNALS:
   /// The splash has been painted.
   void Painted();
+  /// The splash is gone.
+  void Gone();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void hideEvent(QHideEvent* /*event*/) override { Q_EMIT Gone(); }
 
  private:
   FormMirror mirror_;
+  bool is_painted_ = false;
 };
 
 }  // namespace quilla

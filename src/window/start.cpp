@@ -29,7 +29,11 @@ void Start(Quilla& quilla, QtOutside& outside) {
     outside.gate().Enter(make_panel);
     clock.LetGo();
   };
+  // It may have been painted while it was shown.
+  if (window->is_painted()) QTimer::singleShot(0, window, painted);
   QObject::connect(window, &SplashWindow::Painted, window, painted, Qt::QueuedConnection);
+  const auto discard = [&outside, &splash] { outside.event_loop().DiscardWindow(splash); };
+  QObject::connect(window, &SplashWindow::Gone, &outside.gate(), discard, Qt::QueuedConnection);
 }
 
 }  // namespace quilla

@@ -24,6 +24,7 @@
 #include "platform/failure.h"
 #include "window/form_mirror.h"
 #include "window/qt_text.h"
+#include "window/start.h"
 #include "window/when_open.h"
 
 namespace quilla {
@@ -91,8 +92,9 @@ TEST(QtFileDialogsTest, SavingBeginsWithANameAndAsksOfTheFileThatIsWritten) {
   ASSERT_TRUE(written.open(QIODevice::WriteOnly));
   QtOutside outside;
   Quilla quilla(outside.ports());
-  quilla.Start();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return quilla.panel() != nullptr; }));
+  Start(quilla, outside);
+  const Form& splash = *quilla.Forms().front();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return outside.event_loop().WindowOf(splash) == nullptr; }));
   Session& session = quilla.panel()->session();
 
   const auto enter = [](QFileDialog& dialog, const QString& path) {

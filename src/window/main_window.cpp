@@ -1,6 +1,5 @@
 #include "window/main_window.h"
 
-#include <QApplication>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QEvent>
@@ -8,13 +7,11 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTimer>
 
 #include "program/rows.h"
 #include "window/bindings.h"
 #include "window/box_pages.h"
 #include "window/menus.h"
-#include "window/program_icon.h"
 #include "window/qt_text.h"
 #include "window/screen_room.h"
 
@@ -131,14 +128,6 @@ void MainWindow::changeEvent(QEvent* event) {
   readable.setColor(QPalette::Disabled, QPalette::WindowText,
                     palette().color(QPalette::Active, QPalette::WindowText));
   mirror_.WidgetOf(mirror_.Get<Label>("TipsLabel"))->setPalette(readable);
-}
-
-// The icon is drawn while the window system makes the window.
-void MainWindow::showEvent(QShowEvent* event) {
-  QMainWindow::showEvent(event);
-  if (QApplication::windowIcon().isNull()) {
-    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(ProgramIcon()); });
-  }
 }
 
 // A box that has just opened is what the user goes on with, from wherever it was opened.

@@ -22,7 +22,6 @@ class MainWindow : public QMainWindow {
 
  protected:
   void changeEvent(QEvent* event) override;
-  void showEvent(QShowEvent* event) override;
 
  private:
   QWidget* MakeProgramTable();

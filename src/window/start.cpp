@@ -1,7 +1,9 @@
 #include "window/start.h"
 
+#include <QApplication>
 #include <QTimer>
 
+#include "window/program_icon.h"
 #include "window/splash_window.h"
 
 namespace quilla {
@@ -9,6 +11,8 @@ namespace {
 
 /// A splash that is out of sight is never painted, and is waited for no longer.
 constexpr int kLongestWaitMs = 200;
+/// What need not be done before the panel is painted is done so long after it was shown.
+constexpr int kUntilPaintedMs = 100;
 
 }  // namespace
 
@@ -32,8 +36,13 @@ void Start(Quilla& quilla, QtOutside& outside) {
   // It may have been painted while it was shown.
   if (window->is_painted()) QTimer::singleShot(0, window, painted);
   QObject::connect(window, &SplashWindow::Painted, window, painted, Qt::QueuedConnection);
-  const auto discard = [&outside, &splash] { outside.event_loop().DiscardWindow(splash); };
-  QObject::connect(window, &SplashWindow::Gone, &outside.gate(), discard, Qt::QueuedConnection);
+  const auto finish = [&outside, &splash] {
+    outside.event_loop().DiscardWindow(splash);
+    QApplication::setWindowIcon(ProgramIcon());
+  };
+  QObject::connect(window, &SplashWindow::Gone, &outside.gate(), [&outside, finish] {
+    QTimer::singleShot(kUntilPaintedMs, &outside.gate(), finish);
+  });
 }
 
 }  // namespace quilla

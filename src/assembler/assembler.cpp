@@ -87,7 +87,7 @@ void Assembler::SplitOpcodes() {
     }
     const std::string& cell = table.TextMatrix(row, kOpcodeColumn);
     for (int byte = 0; byte < ByteCount(cell); ++byte) {
-      TempTable_.SetTextMatrix(row, byte, std::string(ByteAt(cell, byte)));
+      TempTable_.SetTextMatrix(row, byte, ByteAt(cell, byte));
     }
   }
 }

@@ -77,8 +77,8 @@ void DataDialog::ListData() {
   int row = kHeadingRows;
   for (const MarkedByte& byte : bytes_) {
     DataTable_.SetTextMatrix(row, kAddress, AddressText(byte.address));
-    DataTable_.SetTextMatrix(row, kData, std::string(byte.digits.text()));
-    DataTable_.SetTextMatrix(row, kCategory, std::string(TextOf(byte.category)));
+    DataTable_.SetTextMatrix(row, kData, byte.digits.text());
+    DataTable_.SetTextMatrix(row, kCategory, TextOf(byte.category));
     ++row;
   }
   DataTable_.SelectCell(std::min(kHeadingRows, DataTable_.Rows() - 1), 0);

@@ -94,8 +94,7 @@ std::optional<std::string> CheckMarks(const std::vector<MarkedByte>& bytes, Prog
 std::string OpcodeCellOf(const ProgramLayout& layout, int row) {
   std::string cell;
   for (const ByteDigits& byte : layout.OpcodeStore[Place(row)]) {
-    if (byte.IsEmpty()) continue;
-    cell += cell.empty() ? std::string(byte.text()) : VariableBytes(byte.text());
+    if (!byte.IsEmpty()) AppendByte(cell, byte.text());
   }
   return cell;
 }

@@ -1,6 +1,8 @@
 #include "disassembler/stages.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -14,12 +16,16 @@
 namespace quilla {
 namespace {
 
-constexpr const char* kVariablePrefix = "v";
-constexpr const char* kLabelPrefix = "a";
+constexpr char kVariablePrefix = 'v';
+constexpr char kLabelPrefix = 'a';
+constexpr std::size_t kLongestName = 12;  // a prefix, a sign and ten digits
 constexpr const char* kBeforeOperand = "  ";
 
-std::string NumberedName(const char* prefix, int number) {
-  return std::string(prefix).append(std::to_string(number));
+/// Adds the prefix with the number behind it to the names.
+const std::string& AddName(char prefix, int number, std::vector<std::string>& names) {
+  std::array<char, kLongestName> text = {prefix};
+  const char* const end = std::to_chars(text.begin() + 1, text.end(), number).ptr;
+  return names.emplace_back(text.cbegin(), end);
 }
 
 /// The first place that each address was given. An address of four digits has its slot in a table,
@@ -40,13 +46,17 @@ class FirstPlaces {
 
  private:
   int& SlotOf(std::string_view address) {
-    bool is_plain = address.size() == kAddressDigits;
+    if (address.size() != kAddressDigits) return OtherSlotOf(address);
     std::size_t number = 0;
     for (const char digit : address) {
-      is_plain = is_plain && DigitValue(digit) >= 0 && digit <= 'F';
-      number = number * kDigitValues + static_cast<std::size_t>(DigitValue(digit));
+      const int value = DigitValue(digit);
+      if (value < 0 || digit > 'F') return OtherSlotOf(address);
+      number = number * kDigitValues + static_cast<std::size_t>(value);
     }
-    return is_plain ? table_[number] : others_.emplace(address, kNone).first->second;
+    return table_[number];
+  }
+  int& OtherSlotOf(std::string_view address) {
+    return others_.emplace(address, kNone).first->second;
   }
 
   static constexpr std::size_t kDigitValues = 0x10;
@@ -73,16 +83,16 @@ class OperandNames {
   /// A new variable for a byte.
   const std::string& VariableFor(std::string_view byte) {
     bytes_.emplace_back(byte);
-    return variables_.emplace_back(NumberedName(kVariablePrefix, session_.NextVariableNumber++));
+    return AddName(kVariablePrefix, session_.NextVariableNumber++, variables_);
   }
 
   /// The first label with this equivalent, or a new one.
-  const std::string& LabelFor(std::string address) {
+  const std::string& LabelFor(std::string_view address) {
     const int place = places_.Add(address, next_place_);
     if (place == next_place_) {
       ++next_place_;
-      addresses_.push_back(std::move(address));
-      labels_.push_back(NumberedName(kLabelPrefix, session_.NextLabelNumber++));
+      addresses_.emplace_back(address);
+      AddName(kLabelPrefix, session_.NextLabelNumber++, labels_);
     }
     return labels_[static_cast<std::size_t>(place)];
   }
@@ -130,6 +140,7 @@ void NameOperands(const ProgramLayout& layout, Session& session) {
   session.NextVariableNumber = 0;
   session.NextLabelNumber = 0;
   OperandNames names(session);
+  std::string mnemonic;
   for (int row = 0; row < table.Rows(); ++row) {
     const std::string& cell = table.TextMatrix(row, kOpcodeColumn);
     if (cell.empty() || session.IsOrigin(row)) continue;
@@ -137,13 +148,13 @@ void NameOperands(const ProgramLayout& layout, Session& session) {
       table.SetTextMatrix(row, kMnemonicColumn, kDataMnemonic);
       continue;
     }
-    std::string mnemonic(MnemonicsLUTList(OpcodeOf(cell)));
-    std::string operand;
+    mnemonic.assign(MnemonicsLUTList(OpcodeOf(cell)));
+    std::string_view operand;
     if (HasVariable(cell)) operand = names.VariableFor(ByteAt(cell, 1));
     if (HasLabel(cell)) operand = names.LabelFor(AddressIn(cell));
     if (!operand.empty()) mnemonic.append(kBeforeOperand).append(operand);
-    table.SetTextMatrix(row, kMnemonicColumn, std::move(mnemonic));
-    session.StringTable.SetTextMatrix(row, 0, std::move(operand));
+    table.SetTextMatrix(row, kMnemonicColumn, mnemonic);
+    session.StringTable.SetTextMatrix(row, 0, operand);
   }
   names.Store();
 }

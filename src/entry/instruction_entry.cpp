@@ -21,7 +21,7 @@ void InstructionEntry::INST_Click(int index) {
   session_.SelectedInstruction = index;
   SaveCells();
   const InstructionKey& key = Inst(index);
-  session_.Table1.SetTextMatrix(session_.CurrentRow, kMnemonicColumn, std::string(key.caption));
+  session_.Table1.SetTextMatrix(session_.CurrentRow, kMnemonicColumn, key.caption);
   session_.CurrentOpcode = key.base_opcode;
   const FirstOperand& operand = FirstOperandOf(ClassOf(index));
   if (operand.state == PanelState::kReady) {

@@ -56,9 +56,9 @@ void Grid::MakeRoom(int rows) {
   }
 }
 
-void Grid::AddItem(std::string text) {
+void Grid::AddItem(std::string_view text) {
   InsertRows(Rows(), 1);
-  SetTextMatrix(Rows() - 1, 0, std::move(text));
+  SetTextMatrix(Rows() - 1, 0, text);
 }
 
 void Grid::RemoveRows(int first, int last) {
@@ -85,10 +85,10 @@ void Grid::Clear() {
 
 void Grid::FailOutside() { throw Failure(ErrorNumber::kOutsideTable); }
 
-void Grid::SetTextMatrix(int row, int column, std::string text) {
+void Grid::SetTextMatrix(int row, int column, std::string_view text) {
   std::string& cell = CellAt(row, column).text;
   if (cell == text) return;
-  cell = std::move(text);
+  cell.assign(text);
   RowChanged(row);
 }
 

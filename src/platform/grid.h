@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/control.h"
@@ -80,7 +81,7 @@ class Grid : public Control {
   /// Inserts `count` empty rows before row `at`. Fails as SetRows does.
   void InsertRows(int at, int count);
   /// Adds one row at the end with a text in column 0.
-  void AddItem(std::string text);
+  void AddItem(std::string_view text);
   /// Removes rows `first` to `last`. Fails with `kOutsideTable` where there are none.
   void RemoveRows(int first, int last);
   /// Empties all texts and takes off all colours; the number of rows stays.
@@ -89,7 +90,7 @@ class Grid : public Control {
   /// Reading and writing a text does not move the current cell. A cell outside the table fails
   /// with `kOutsideTable`, here and below.
   const std::string& TextMatrix(int row, int column) const { return CellAt(row, column).text; }
-  void SetTextMatrix(int row, int column, std::string text);
+  void SetTextMatrix(int row, int column, std::string_view text);
 
   CellColor BackColor(int row, int column) const { return CellAt(row, column).back; }
   CellColor ForeColor(int row, int column) const { return CellAt(row, column).fore; }

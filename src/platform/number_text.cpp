@@ -45,11 +45,4 @@ std::string PaddedHexText(std::int64_t number, int digits) {
   return {begin, end};
 }
 
-int DigitValue(char digit) {
-  if (digit >= '0' && digit <= '9') return digit - '0';
-  if (digit >= 'A' && digit <= 'F') return digit - 'A' + kDecimal;
-  if (digit >= 'a' && digit <= 'f') return digit - 'a' + kDecimal;
-  return -1;
-}
-
 }  // namespace quilla

@@ -33,7 +33,12 @@ inline std::string AddressText(std::int64_t address) {
 }
 
 /// The value of one hexadecimal digit, or -1 for another character.
-int DigitValue(char digit);
+constexpr int DigitValue(char digit) {
+  if (digit >= '0' && digit <= '9') return digit - '0';
+  if (digit >= 'A' && digit <= 'F') return digit - 'A' + 10;
+  if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
+  return -1;
+}
 
 }  // namespace quilla
 

@@ -1,6 +1,7 @@
 #include "program/default_comment.h"
 
 #include <string>
+#include <string_view>
 
 #include "isa/instruction_set.h"
 #include "program/opcode_cell.h"
@@ -16,9 +17,17 @@ void ApplyDefaultComment(Session& session, int row) {
   const std::string& cell = table.TextMatrix(row, kOpcodeColumn);
   if (cell.empty()) return;
   const int opcode = OpcodeOf(cell);
-  std::string comment(BeforeList(opcode));
-  if (cell.size() != kOneByteCell) comment.append(session.OperandOf(row)).append(AfterList(opcode));
-  table.SetTextMatrix(row, kCommentColumn, std::move(comment));
+  const std::string_view before = BeforeList(opcode);
+  if (cell.size() == kOneByteCell) {
+    table.SetTextMatrix(row, kCommentColumn, before);
+    return;
+  }
+  const std::string& operand = session.OperandOf(row);
+  const std::string_view after = AfterList(opcode);
+  std::string comment;
+  comment.reserve(before.size() + operand.size() + after.size());
+  comment.append(before).append(operand).append(after);
+  table.SetTextMatrix(row, kCommentColumn, comment);
 }
 
 }  // namespace quilla

@@ -42,6 +42,11 @@ std::string LabelBytes(std::string_view address) {
   return VariableBytes(Part(address, kDigits)) + VariableBytes(Part(address, 0));
 }
 
+void AppendByte(std::string& cell, std::string_view byte) {
+  if (!cell.empty()) cell.append(kBetweenBytes);
+  cell.append(byte);
+}
+
 std::string WithVariable(std::string_view cell, std::string_view byte) {
   return std::string(ByteAt(cell, 0)) + VariableBytes(byte);
 }
@@ -51,7 +56,9 @@ std::string WithLabel(std::string_view cell, std::string_view address) {
 }
 
 std::string AddressIn(std::string_view cell) {
-  return std::string(ByteAt(cell, 2)).append(ByteAt(cell, 1));
+  std::string address(ByteAt(cell, 2));
+  address.append(ByteAt(cell, 1));
+  return address;
 }
 
 }  // namespace quilla

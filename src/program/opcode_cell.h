@@ -33,6 +33,8 @@ std::string OpcodeCell(int opcode);
 /// low byte first, with blanks in front.
 std::string VariableBytes(std::string_view byte);
 std::string LabelBytes(std::string_view address);
+/// Adds the digits of a byte to a cell.
+void AppendByte(std::string& cell, std::string_view byte);
 /// The opcode of `cell` with one operand byte behind it.
 std::string WithVariable(std::string_view cell, std::string_view byte);
 /// The opcode of `cell` with an address of four digits behind it, low byte first.

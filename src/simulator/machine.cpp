@@ -107,8 +107,8 @@ void Machine::UpdateRegisterTable() {
 void Machine::Disassemble(Number Address) {
   constexpr std::string_view kBlanks = "   ";
   constexpr std::string_view kBeforeOperand = "  ";
-  const auto show = [this](int column, std::string text) {
-    tables_.InstructionTable.SetTextMatrix(kInstructionRow, column, std::move(text));
+  const auto show = [this](int column, std::string_view text) {
+    tables_.InstructionTable.SetTextMatrix(kInstructionRow, column, text);
   };
   show(kAddressColumn, AddressText(Address));
   tables_.SetReg(kRowPC, AddressText(Address));
@@ -125,8 +125,8 @@ void Machine::Disassemble(Number Address) {
     mnemonic.append(tables_.MemText(Address + 1)).append("h");
     for (int i = 1; i < length; ++i) bytes.append(kBlanks).append(tables_.MemText(Address + i));
   }
-  show(kMnemonicColumn, std::move(mnemonic));
-  show(kOpcodeColumn, std::move(bytes));
+  show(kMnemonicColumn, mnemonic);
+  show(kOpcodeColumn, bytes);
   InstLength = length;
 }
 

@@ -129,8 +129,8 @@ const std::string& WatchTables::PortText(Number port) const {
   return PortTable.TextMatrix(PortRow(port), kValueColumn);
 }
 
-void WatchTables::SetPort(Number port, std::string text) {
-  PortTable.SetTextMatrix(PortRow(port), kValueColumn, std::move(text));
+void WatchTables::SetPort(Number port, std::string_view text) {
+  PortTable.SetTextMatrix(PortRow(port), kValueColumn, text);
 }
 
 const std::string& WatchTables::OpcodeText() const {

@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "platform/grid.h"
 #include "platform/number_text.h"
@@ -78,8 +77,8 @@ struct WatchTables {
   void Empty();
 
   const std::string& RegText(int row) const { return RegisterTable.TextMatrix(row, kValueColumn); }
-  void SetReg(int row, std::string text) {
-    RegisterTable.SetTextMatrix(row, kValueColumn, std::move(text));
+  void SetReg(int row, std::string_view text) {
+    RegisterTable.SetTextMatrix(row, kValueColumn, text);
   }
   Number RegValue(int row) const { return NumberOf(RegText(row)); }
   /// The value of a flag, which is decimal text.
@@ -89,15 +88,15 @@ struct WatchTables {
   const std::string& MemRowText(Number row) const {
     return MemoryTable.TextMatrix(MemoryRow(row), kValueColumn);
   }
-  void SetMemRow(Number row, std::string text) {
-    MemoryTable.SetTextMatrix(MemoryRow(row), kValueColumn, std::move(text));
+  void SetMemRow(Number row, std::string_view text) {
+    MemoryTable.SetTextMatrix(MemoryRow(row), kValueColumn, text);
   }
   /// Memory by address: the cell lies one row below its address, under the heading.
   const std::string& MemText(Number address) const { return MemRowText(address + 1); }
-  void SetMem(Number address, std::string text) { SetMemRow(address + 1, std::move(text)); }
+  void SetMem(Number address, std::string_view text) { SetMemRow(address + 1, text); }
 
   const std::string& PortText(Number port) const;
-  void SetPort(Number port, std::string text);
+  void SetPort(Number port, std::string_view text);
 
   /// The bytes of the instruction on view.
   const std::string& OpcodeText() const;

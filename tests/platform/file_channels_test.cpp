@@ -136,6 +136,8 @@ TEST_F(FileChannelsTest, ACopyKeepsWhatIsReplacedUntilItIsWritten) {
   EXPECT_TRUE(replace("file~")) << "nobody could read what it holds";
   EXPECT_FALSE(replace("file~~")) << "the name is taken";
   EXPECT_TRUE(fs::exists("file~"));
+  EXPECT_TRUE(disk_.Rename("file~", "file"));
+  EXPECT_FALSE(fs::exists("file~"));
 }
 
 }  // namespace

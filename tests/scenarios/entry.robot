@@ -111,6 +111,8 @@ Table1 colors 1,4=own 2,4=C0FFC0 | text: CommentsTxt=""
 > click CommentNextButton ; type CommentsTxt alone ; click DefaultCommentButton
 refused DefaultCommentButton disabled
 # Ignore takes back the row under edit alone, Esc nothing.
+> cell Table1 31 0 ; show CommentNextButton
+CommentNextButton caption="&Next" enabled=0 visible=1
 > cell Table1 2 0 ; type CommentsTxt ! ; click CommentCancelButton ; click CommentsTool
 > cell Table1 3 3 ; type CommentsTxt ? ; escape ; changes
 session: PanelState=1 LastLine=3 ClickedRow=3 SavedComment="alone" | Table1 3 - - - - "alone?"

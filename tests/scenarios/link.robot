@@ -90,12 +90,14 @@ session: PortOpen=1 HexPath="good.hex" HexTitle="good.hex" CommPortNumber=1 MSCo
 HexList 0=":0080000080" 1=":018000007609" 2=":00000001FF"
 caption: TipsLabel="Formatting received data . . ." | checked: PortOption 0
 unchecked: PortOption 1
-> path up.hex ; tick 99 ; show TipsLabel ; tick 1 ; path up.hex ; click DownloadFile ; answer ok
+> path up.hex ; tick 99 ; show TipsLabel ; tick 1 ; show TipsLabel ; path up.hex
 TipsLabel caption="Formatting received data . . ." enabled=1 visible=1
 dtr 0
 rts 0
 port close
 dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> "up.hex"
+TipsLabel caption="Enter file name and click 'Save'." enabled=1 visible=1
+> click DownloadFile ; answer ok
 dialog open "Open Hex file" "Hex Files(*.hex)|*.hex" -> "up.hex"
 > settle ; changes
 box information "Prepare Microprocessor Trainer for download and click 'OK' to download, or click 'Cancel' to cancel download." okcancel -> ok
@@ -120,6 +122,18 @@ rts 0
 port close
 box critical "Received data is corrupt. Please upload again." ok -> ok
 HexList 0=":01" 1=":" | caption: TipsLabel="Upload failed."
+# A save that is given up has no message.
+> answer ok ; click UploadFile ; feed ":00000001FF" ; nopath ; settle ; show TipsLabel
+box information "Click 'OK' and upload from Microprocessor Trainer, or click 'Cancel' to cancel upload." okcancel -> ok
+port open 1 "2400,N,8,1"
+rts 1
+dtr 1
+sent "ATV1Q0\r"
+dtr 0
+rts 0
+port close
+dialog save "Save to Hex file" "Hex Files(*.hex)|*.hex" -> cancel
+TipsLabel caption="Failed to save file." enabled=1 visible=1
 # Unsaved changes are asked for first. A file without its end record stays open: no later download
 # finds its channel free.
 > row NOP ; click DownloadFile ; answer no ; path endless.hex ; click DownloadFile ; changes

@@ -27,8 +27,12 @@ dialog save "Save As" "Brelvanor Assembler Files (*.baf)|*.baf" -> "one.baf"
 session: SelectedInstruction=78 ProjectPath="one.baf" MessageResult="6"
 # It ends Insert; a click in Overwrite opens no line then. A large table shrinks to its 32 rows.
 > row NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP NOP
-> click WriteMode ; answer no ; click NewFile ; row NOP ; cell Table1 1 2 ; row HLT ; changes
+> click CommentsTool ; cell Table1 0 4 ; type CommentsTxt x ; click CommentDoneButton
+> click WriteMode ; answer no ; click NewFile ; show PasteEdit ; dump Table1 0 0
 box question "Save changes to Pgm1.baf?" yesnocancel -> no
+PasteEdit caption="&Paste" enabled=0 visible=1
+Table1 0 "Origin" "8000" "" "" ""
+> row NOP ; cell Table1 1 2 ; row HLT ; changes
 session: Cursor=2 FileChanged=1 SelectionAnchor=1 SelectedInstruction=79 CurrentOpcode=118
     SavedCells(2)="NOP" SavedCells(3)="00" SavedCells(4)="No Operation." MessageResult="7"
 Table1 1 - - "HLT" "76" default | caption: TipsLabel="Program Mode."

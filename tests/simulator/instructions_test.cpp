@@ -133,7 +133,7 @@ A=12: F5 > [FEFE]=0C [FEFF]=02 SP=FEFE ; A=07: F5 > [FEFE]=07
 A=99 Zero=1 Sign=1 Parity=1 Carry=1 Aux=1: F5 > [FEFE]=63 [FEFF]=D7
 A=1E: F5 ! > [FEFE]=00 [FEFF]=00 SP=FF00 ; A=-1: F5 > [FEFE]=0FFFFFFFF [FEFF]=02
 SP=FEFE [FEFE]=0C [FEFF]=D7: F1 > A=0C Zero=1 Sign=1 Parity=1 Carry=1 Aux=1 SP=FF00
-SP=FEFE [FEFF]=28 Zero=1 Sign=1 Parity=1 Carry=1 Aux=1: F1 > A=00 Zero=0 Sign=0 Parity=0 Carry=0 Aux=0
+SP=FEFE [FEFF]=29 Zero=1 Sign=1 Parity=1 Carry=0 Aux=1: F1 > A=00 Zero=0 Sign=0 Parity=0 Carry=1 Aux=0
 # Transfers leave short texts and derived rows; addresses wrap each in its own way.
 B=12 C=34 BC=0000 Carry=1: C3 00 30 > PC=3000 BC=0000 Carry=1 ; @FFFE [0000]=30: C3 00 > PC=3000
 HL=3000: E9 > PC=3000 ; : CD 00 30 > [FEFF]=20 [FEFE]=03 SP=FEFE PC=3000

@@ -89,20 +89,20 @@ void Grid::SetTextMatrix(int row, int column, std::string_view text) {
   std::string& cell = CellAt(row, column).text;
   if (cell == text) return;
   cell.assign(text);
-  RowChanged(row);
+  if (grid_observer != nullptr) grid_observer->RowsChanged(row, row);
 }
 
 void Grid::PaintBack(int row, int column, CellColor back) {
   SelectCell(row, column);
   CellAt(row, column).back = back;
-  RowChanged(row);
+  RowPainted(row);
 }
 
 void Grid::Paint(int row, int column, CellColor back, CellColor fore) {
   SelectCell(row, column);
   CellAt(row, column).back = back;
   CellAt(row, column).fore = fore;
-  RowChanged(row);
+  RowPainted(row);
 }
 
 void Grid::SelectRow(int row) {

@@ -39,8 +39,10 @@ inline constexpr CellColor kSelectionColor{-2};  // the grid's selection colour
 /// told between.
 class GridObserver : public ControlObserver {
  public:
-  /// Texts or colours have changed.
+  /// Texts have changed, or all colours.
   virtual void RowsChanged(int first, int last) = 0;
+  /// A cell of this row has been painted.
+  virtual void RowPainted(int row) = 0;
   /// Empty rows are about to come as these rows; they have come.
   virtual void BeginInsertRows(int first, int last) = 0;
   virtual void EndInsertRows() = 0;
@@ -170,8 +172,8 @@ class Grid : public Control {
   void MakeRoom(int rows);
   void MoveTo(int row, int column);
   void KeepCurrentCellInside();
-  void RowChanged(int row) const {
-    if (grid_observer != nullptr) grid_observer->RowsChanged(row, row);
+  void RowPainted(int row) const {
+    if (grid_observer != nullptr) grid_observer->RowPainted(row);
   }
 
   int rows_ = 0;

@@ -79,10 +79,12 @@ void GridModel::RowsChanged(int first, int last) {
     touched_first_ = std::min(touched_first_, first);
     touched_last_ = std::max(touched_last_, last);
   }
-  if (first == last && HasCursor(first)) {
-    cursor_row_ = first;
-    cursor_touched_ = true;
-  }
+  if (first == last && first == cursor_row_ && HasCursor(first)) cursor_touched_ = true;
+}
+
+void GridModel::RowPainted(int row) {
+  if (HasCursor(row)) cursor_row_ = row;
+  RowsChanged(row, row);
 }
 
 void GridModel::BeginInsertRows(int first, int last) {

@@ -49,6 +49,7 @@ class GridModel : public QAbstractTableModel, public GridObserver {
   // Told by the grid.
   void PropertyChanged(Property /*property*/) override {}
   void RowsChanged(int first, int last) override;
+  void RowPainted(int row) override;
   void BeginInsertRows(int first, int last) override;
   void EndInsertRows() override { endInsertRows(); }
   void BeginRemoveRows(int first, int last) override;

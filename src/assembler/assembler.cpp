@@ -10,7 +10,7 @@ namespace quilla {
 namespace {
 
 constexpr int kOriginMark = 3;  // the column of TempTable that marks an origin
-constexpr int kSaveChannel = 6;
+constexpr int kHexChannel = 6;
 
 }  // namespace
 
@@ -45,7 +45,7 @@ void Assembler::AssembleFile_Click() {
   }
   Assemble();
   session_.SetTip("Data assembled successfully.");
-  SaveHexRecords(session_, kSaveChannel, FailedWrite::kClosesChannel,
+  SaveHexRecords(session_, kHexChannel, FailedWrite::kClosesChannel,
                  [this] { session_.SetTip("Saving to file . . ."); });
   states_.ReturnToReady();
 }

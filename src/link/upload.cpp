@@ -12,7 +12,7 @@ namespace quilla {
 namespace {
 
 constexpr int kCreateHexMs = 100;
-constexpr int kSaveChannel = 4;
+constexpr int kUploadChannel = 4;
 constexpr const char* kTrigger = "ATV1Q0\r";
 constexpr const char* kChooseFileTip = "Enter file name and click 'Save'.";
 /// The characters with which the trainer ends each record but the last.
@@ -84,7 +84,7 @@ void Upload::CreateHexTimer_Timer() {
   }
   session_.SetTip(kChooseFileTip);
   const bool saved =
-      SaveHexRecords(session_, kSaveChannel, FailedWrite::kLeavesChannel, ClearAddress);
+      SaveHexRecords(session_, kUploadChannel, FailedWrite::kLeavesChannel, ClearAddress);
   states_.ReturnToReady();
   session_.SetTip(saved ? kChooseFileTip : "Failed to save file.");
 }

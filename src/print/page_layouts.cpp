@@ -7,7 +7,7 @@ namespace quilla {
 namespace {
 
 // Widths in 1/1440 inch.
-constexpr int kColWidthList[] = {1080, 600, 1680, 1080, 7140};
+constexpr int kPrintedWidthList[] = {1080, 600, 1680, 1080, 7140};
 constexpr int kLabelColWidthList[] = {1020, 1020, 900};
 constexpr CellColor kShade{0xD0D0D0};
 
@@ -25,7 +25,7 @@ void PageLayout::WriteHead(const Session& session, const PrintState& state) {
 PrintPanel::PrintPanel() : PageLayout("PrintPanel") {
   Table.SetRows(kRowsOfPage);
   for (int column = 0; column < Table.Cols(); ++column) {
-    Table.SetColWidth(column, kColWidthList[column]);
+    Table.SetColWidth(column, kPrintedWidthList[column]);
     Table.SetColAlignment(column, column <= kAddressColumn ? kAlignCentre : kAlignLeft);
   }
 }

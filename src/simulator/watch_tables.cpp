@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kInterruptRows = 8;
 constexpr int kInstructionRows = 2;
-constexpr int kHeadingRows = 1;
+constexpr int kTitleRows = 1;
 
 constexpr const char* kAddressHeading = "Address";
 constexpr const char* kValueHeading = "Value";
@@ -74,7 +74,7 @@ int PortRow(Number port) {
 }  // namespace
 
 WatchTables::WatchTables(Control* parent) : window(parent) {
-  for (Grid* table : AllTables()) table->SetFixedRows(kHeadingRows);
+  for (Grid* table : AllTables()) table->SetFixedRows(kTitleRows);
   for (Grid* table : {&RegisterTable, &MemoryTable, &PortTable, &InterruptTable}) {
     table->SetColAlignment(kTitleColumn, kAlignCentreTop);
     table->SetColAlignment(kValueColumn, kAlignCentreTop);

@@ -51,6 +51,7 @@ Options ReadOptions(int argc, char** argv) {
     if (name == "--range" && value.size() == 9 && value[4] == '-') {
       options.first = static_cast<std::uint16_t>(HexValue(value.substr(0, 4)));
       options.last = static_cast<std::uint16_t>(HexValue(value.substr(5)));
+      if (options.first > options.last) throw std::invalid_argument(value);
     } else if (name == "--record") {
       options.record.open(value, std::ios::binary);
       if (!options.record) throw std::invalid_argument(value);

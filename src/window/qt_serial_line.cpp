@@ -102,7 +102,8 @@ class QtSerialLine : public SerialLine {
 
 }  // namespace
 
-std::unique_ptr<SerialLine> OpenSerialLine(const QString& device, const std::string& settings) {
+std::unique_ptr<SerialLine> OpenSerialLine(const QString& device, const std::string& settings,
+                                           const std::function<void()>& /*turn*/) {
   return std::make_unique<QtSerialLine>(device, settings);
 }
 

@@ -51,9 +51,10 @@ bool QtSerialPort::IsSending(const QString& device) {
 void QtSerialPort::Open(int number, const std::string& settings) {
   const QString device = DeviceOf(number);
   while (IsSending(device)) turn_();
+  std::unique_ptr<SerialLine> line = OpenSerialLine(device, settings, turn_);
   // A handler that ran meanwhile may have been first.
   if (IsOpen()) throw Failure(ErrorNumber::kPortInUse);
-  line_ = OpenSerialLine(device, settings);
+  line_ = std::move(line);
   device_ = device;
 }
 

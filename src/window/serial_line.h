@@ -3,6 +3,7 @@
 #define QUILLA_WINDOW_SERIAL_LINE_H_
 
 #include <QString>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -39,8 +40,10 @@ class SerialLine {
 };
 
 /// Opens a device, "COM3" or "/dev/ttyS2", for one user alone, with settings such as "2400,N,8,1"
-/// and no handshake. Fails with `kPortMissing`, `kPortInUse` or `kPortFailed`.
-std::unique_ptr<SerialLine> OpenSerialLine(const QString& device, const std::string& settings);
+/// and no handshake. Calls `turn`, which waits a moment, until a slow device is open. Fails with
+/// `kPortMissing`, `kPortInUse` or `kPortFailed`.
+std::unique_ptr<SerialLine> OpenSerialLine(const QString& device, const std::string& settings,
+                                           const std::function<void()>& turn);
 
 }  // namespace quilla
 

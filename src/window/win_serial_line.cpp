@@ -4,7 +4,9 @@
 #include <QHash>
 #include <QStringList>
 #include <algorithm>
+#include <chrono>
 #include <deque>
+#include <future>
 #include <utility>
 
 #include "platform/failure.h"
@@ -16,6 +18,8 @@ namespace {
 
 /// How much the driver is given ahead; it takes whatever it is given.
 constexpr std::size_t kDriverBytes = 4096;
+/// In which a common device opens.
+constexpr std::chrono::milliseconds kShortWait{10};
 
 [[noreturn]] void FailOpening() {
   switch (GetLastError()) {
@@ -200,8 +204,13 @@ class WinSerialLine : public SerialLine {
 
 }  // namespace
 
-std::unique_ptr<SerialLine> OpenSerialLine(const QString& device, const std::string& settings) {
-  return std::make_unique<WinSerialLine>(device, settings);
+std::unique_ptr<SerialLine> OpenSerialLine(const QString& device, const std::string& settings,
+                                           const std::function<void()>& turn) {
+  // The driver may take seconds, for Bluetooth.
+  auto line = std::async(std::launch::async,
+                         [&] { return std::make_unique<WinSerialLine>(device, settings); });
+  while (line.wait_for(kShortWait) != std::future_status::ready) turn();
+  return line.get();
 }
 
 }  // namespace quilla

@@ -1,5 +1,4 @@
-# On Linux: a desktop entry, icons, a type for project files, man pages; and as packages a .deb
-# and a .tar.gz that runs from any folder.
+# On Linux: a desktop entry, icons, a type for project files, man pages; and as a package a .deb.
 configure_file(linux/quilla.metainfo.xml.in quilla.metainfo.xml @ONLY)
 
 install(FILES ${PROJECT_SOURCE_DIR}/docs/man/quilla-robot.1
@@ -19,11 +18,10 @@ if(QUILLA_WINDOW)
   install(FILES icons/quilla-48.png DESTINATION ${icons}/48x48/apps RENAME quilla.png)
 endif()
 
-set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME quilla)
 set(CPACK_PACKAGE_CONTACT "The Quilla authors <quilla@packages.invalid>"
     CACHE STRING "Who answers for the packages")
-set(CPACK_PACKAGE_FILE_NAME "quilla-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR}")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS

@@ -1,12 +1,9 @@
 # Makes what CPack has staged for a .deb as Debian wants it: compressed texts, its own changelog,
 # the licence in its own form. CPack runs this before it packs.
-if(NOT CPACK_GENERATOR STREQUAL "DEB")
-  return()
-endif()
 set(share ${CPACK_TEMPORARY_INSTALL_DIRECTORY}${CPACK_PACKAGING_INSTALL_PREFIX}/share)
 set(texts ${share}/doc/quilla)
 
-file(REMOVE ${texts}/LICENSE ${texts}/CONTRIBUTING.md)
+file(REMOVE ${texts}/LICENSE)
 file(RENAME ${texts}/CHANGELOG.md ${texts}/changelog)
 configure_file(${CPACK_QUILLA_PACKAGING}/linux/copyright ${texts}/copyright COPYONLY)
 configure_file(${CPACK_QUILLA_PACKAGING}/linux/lintian-overrides ${share}/lintian/overrides/quilla

@@ -1,5 +1,4 @@
-# On Windows: what a program says of itself to the system, and as packages a setup program and a
-# .zip.
+# On Windows: what a program says of itself to the system, and as a package a setup program.
 set(QUILLA_FOUR_NUMBERS ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.0.0)
 string(REPLACE "." "," QUILLA_FOUR_WORDS ${QUILLA_FOUR_NUMBERS})
 
@@ -18,7 +17,7 @@ if(QUILLA_WINDOW)
   set_target_properties(quilla PROPERTIES WIN32_EXECUTABLE ON)  # opens no console
 endif()
 
-set(CPACK_GENERATOR NSIS ZIP)
+set(CPACK_GENERATOR NSIS)
 set(CPACK_PACKAGE_NAME Quilla)
 set(CPACK_PACKAGE_VENDOR "The Quilla authors")
 set(CPACK_PACKAGE_FILE_NAME "quilla-${PROJECT_VERSION}-windows-x86_64")

@@ -8,3 +8,15 @@ set_source_date() {
   QT_RCC_SOURCE_DATE_OVERRIDE=$SOURCE_DATE_EPOCH
   export SOURCE_DATE_EPOCH QT_RCC_SOURCE_DATE_OVERRIDE
 }
+
+# Prints the version of the program, which CMakeLists.txt has.
+read_version() {
+  sed -n 's/^project(Quilla VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt
+}
+
+# Installs what is built in this folder into the new folder $1 in it, all of it with the date set.
+stage() {
+  rm -rf "$1"
+  cmake --install . --prefix "$1" --strip >/dev/null
+  find "$1" -exec touch --no-dereference --date="@$SOURCE_DATE_EPOCH" {} +
+}

@@ -20,16 +20,27 @@ end_display() {
   [ -z "$display_processes" ] || kill $display_processes 2>/dev/null || true
 }
 
-# Waits for a window whose title is like $1, and gives it the focus. Fails after a minute. A search
-# fails also when some other window closes under it, so it is always done again.
+# Prints the numbers of the windows with a title like $1; fails if there are none. A search fails
+# also when some other window closes under it, so it is done again.
+list_windows() {
+  for _ in 1 2 3; do
+    xdotool search --onlyvisible --name "$1" 2>/dev/null && return 0
+    sleep 0.2
+  done
+  return 1
+}
+
+# Waits for a window with a title like $1, gives it the focus, and sets `window` to its number.
+# Fails after some minutes.
 find_window() {
-  for _ in $(seq 120); do
+  for _ in $(seq 60); do
     sleep 0.5
-    xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 || continue
+    list_windows "$1" >/dev/null || continue
     sleep 1
-    xdotool search --onlyvisible --name "$1" windowactivate 2>/dev/null || continue
+    window=$(list_windows "$1" | tail -n 1)
+    xdotool windowactivate "$window" 2>/dev/null || continue
     sleep 0.5
-    return 0
+    [ "$(xdotool getwindowfocus -f 2>/dev/null)" != "$window" ] || return 0
   done
   echo "There is no window '$1'." >&2
   return 1
@@ -38,7 +49,7 @@ find_window() {
 # Waits until no window has a title like $1. Fails after a minute.
 lose_window() {
   for _ in $(seq 120); do
-    xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 || return 0
+    list_windows "$1" >/dev/null || return 0
     sleep 0.5
   done
   echo "The window '$1' stays." >&2
@@ -49,6 +60,26 @@ lose_window() {
 press() {
   xdotool key --delay 60 "$@"
   sleep 0.5
+}
+
+# Presses the keys $2... in the window with a title like $1, which closes it. A program that is busy
+# may lose a key when its window has just come.
+close_by() {
+  title=$1
+  shift
+  find_window "$title"
+  closing=$window
+  for _ in 1 2 3; do
+    press "$@"
+    for _ in $(seq 10); do
+      list_windows "$title" | grep -qx "$closing" || return 0
+      sleep 0.5
+    done
+    xdotool windowactivate "$closing" 2>/dev/null || true
+    sleep 0.5
+  done
+  echo "The window '$title' stays." >&2
+  return 1
 }
 
 take_picture() {

@@ -89,3 +89,5 @@ void CaptionBar::StandOver(QWidget& window) {
 void CaptionBar::mousePressEvent(QMouseEvent* /*event*/) { windowHandle()->startSystemMove(); }
 
 }  // namespace quilla::demo
+
+#include "moc_caption_bar.cpp"

@@ -319,3 +319,6 @@ void Demonstration::GuideBy(int key) {
 }
 
 }  // namespace quilla::demo
+
+#include "moc_demonstration.cpp"
+#include "moc_mark.cpp"

@@ -85,3 +85,5 @@ void BoxArea::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 }  // namespace quilla
+
+#include "moc_box_area.cpp"

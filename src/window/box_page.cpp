@@ -38,3 +38,5 @@ void BoxPage::paintEvent(QPaintEvent* /*event*/) {
 }
 
 }  // namespace quilla
+
+#include "moc_box_page.cpp"

@@ -177,3 +177,5 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
 }
 
 }  // namespace quilla
+
+#include "moc_cell_delegate.cpp"

@@ -49,3 +49,5 @@ DataWindow::DataWindow(Gate& gate, EventLoop& event_loop, Form& form)
 }
 
 }  // namespace quilla
+
+#include "moc_data_window.cpp"

@@ -26,3 +26,5 @@ QVariant EntriesModel::data(const QModelIndex& index, int role) const {
 }
 
 }  // namespace quilla
+
+#include "moc_entries_model.cpp"

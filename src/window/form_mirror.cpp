@@ -185,3 +185,5 @@ bool FormMirror::HandlePointer(const QWidget& widget, const QMouseEvent& mouse) 
 }
 
 }  // namespace quilla
+
+#include "moc_form_mirror.cpp"

@@ -122,3 +122,5 @@ void GridModel::ReportTouchedRows() {
 }
 
 }  // namespace quilla
+
+#include "moc_grid_model.cpp"

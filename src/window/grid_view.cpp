@@ -389,3 +389,5 @@ void GridView::Drag(const QModelIndex& from, int to_row) {
 }
 
 }  // namespace quilla
+
+#include "moc_grid_view.cpp"

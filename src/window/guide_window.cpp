@@ -161,3 +161,5 @@ void GuideWindow::Open(QWidget& owner, const QString& anchor) {
 }
 
 }  // namespace quilla
+
+#include "moc_guide_window.cpp"

@@ -56,3 +56,5 @@ void Gutter::paintSection(QPainter* painter, const QRect& area, int row) const {
 }
 
 }  // namespace quilla
+
+#include "moc_gutter.cpp"

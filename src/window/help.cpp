@@ -77,3 +77,5 @@ void Help::Open(const Form& form, QWidget& window) {
 }
 
 }  // namespace quilla
+
+#include "moc_help.cpp"

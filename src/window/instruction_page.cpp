@@ -195,3 +195,5 @@ void InstructionPage::MoveTo(std::size_t key) {
 }
 
 }  // namespace quilla
+
+#include "moc_instruction_page.cpp"

@@ -45,3 +45,5 @@ void KeyButton::changeEvent(QEvent* event) {
 }
 
 }  // namespace quilla
+
+#include "moc_key_button.cpp"

@@ -155,3 +155,5 @@ void MainWindow::FocusHome() {
 }
 
 }  // namespace quilla
+
+#include "moc_main_window.cpp"

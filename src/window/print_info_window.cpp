@@ -31,3 +31,5 @@ PrintInfoWindow::PrintInfoWindow(Gate& gate, EventLoop& event_loop, Form& form)
 }
 
 }  // namespace quilla
+
+#include "moc_print_info_window.cpp"

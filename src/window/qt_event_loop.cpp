@@ -78,3 +78,5 @@ void QtEventLoop::End() {
 }
 
 }  // namespace quilla
+
+#include "moc_gate.cpp"

@@ -25,3 +25,5 @@ void QuietLabel::Recolor() {
 }
 
 }  // namespace quilla
+
+#include "moc_quiet_label.cpp"

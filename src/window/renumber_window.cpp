@@ -100,3 +100,5 @@ QWidget* RenumberWindow::MakeDigitKeys() {
 }
 
 }  // namespace quilla
+
+#include "moc_renumber_window.cpp"

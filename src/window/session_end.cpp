@@ -69,3 +69,5 @@ void SessionEnd::WriteRescue() {
 }
 
 }  // namespace quilla
+
+#include "moc_session_end.cpp"

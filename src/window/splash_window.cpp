@@ -103,3 +103,5 @@ void SplashWindow::paintEvent(QPaintEvent* /*event*/) {
 }
 
 }  // namespace quilla
+
+#include "moc_splash_window.cpp"

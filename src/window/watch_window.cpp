@@ -203,3 +203,5 @@ QWidget* WatchWindow::MakeStartingAddress() {
 }
 
 }  // namespace quilla
+
+#include "moc_watch_window.cpp"

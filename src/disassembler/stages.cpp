@@ -19,13 +19,13 @@ namespace {
 constexpr char kVariablePrefix = 'v';
 constexpr char kLabelPrefix = 'a';
 constexpr std::size_t kLongestName = 12;  // a prefix, a sign and ten digits
-constexpr const char* kBeforeOperand = "  ";
+constexpr std::string_view kBeforeOperand = "  ";
 
 /// Adds the prefix with the number behind it to the names.
 const std::string& AddName(char prefix, int number, std::vector<std::string>& names) {
   std::array<char, kLongestName> text = {prefix};
   const char* const end = std::to_chars(text.begin() + 1, text.end(), number).ptr;
-  return names.emplace_back(text.cbegin(), end);
+  return names.emplace_back(text.data(), static_cast<std::size_t>(end - text.data()));
 }
 
 /// The first place that each address was given. An address of four digits has its slot in a table,
@@ -86,12 +86,12 @@ class OperandNames {
     return AddName(kVariablePrefix, session_.NextVariableNumber++, variables_);
   }
 
-  /// The first label with this equivalent, or a new one.
-  const std::string& LabelFor(std::string_view address) {
+  /// The first label with this address, or a new one.
+  const std::string& LabelFor(std::string address) {
     const int place = places_.Add(address, next_place_);
     if (place == next_place_) {
       ++next_place_;
-      addresses_.emplace_back(address);
+      addresses_.push_back(std::move(address));
       AddName(kLabelPrefix, session_.NextLabelNumber++, labels_);
     }
     return labels_[static_cast<std::size_t>(place)];
@@ -140,7 +140,6 @@ void NameOperands(const ProgramLayout& layout, Session& session) {
   session.NextVariableNumber = 0;
   session.NextLabelNumber = 0;
   OperandNames names(session);
-  std::string mnemonic;
   for (int row = 0; row < table.Rows(); ++row) {
     const std::string& cell = table.TextMatrix(row, kOpcodeColumn);
     if (cell.empty() || session.IsOrigin(row)) continue;
@@ -148,12 +147,12 @@ void NameOperands(const ProgramLayout& layout, Session& session) {
       table.SetTextMatrix(row, kMnemonicColumn, kDataMnemonic);
       continue;
     }
-    mnemonic.assign(MnemonicsLUTList(OpcodeOf(cell)));
+    const std::string_view mnemonic = MnemonicsLUTList(OpcodeOf(cell));
     std::string_view operand;
     if (HasVariable(cell)) operand = names.VariableFor(ByteAt(cell, 1));
     if (HasLabel(cell)) operand = names.LabelFor(AddressIn(cell));
-    if (!operand.empty()) mnemonic.append(kBeforeOperand).append(operand);
-    table.SetTextMatrix(row, kMnemonicColumn, mnemonic);
+    const std::string_view blanks = operand.empty() ? std::string_view() : kBeforeOperand;
+    table.JoinTextMatrix(row, kMnemonicColumn, {mnemonic, blanks, operand});
     session.StringTable.SetTextMatrix(row, 0, operand);
   }
   names.Store();

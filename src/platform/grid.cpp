@@ -88,8 +88,19 @@ void Grid::FailOutside() { throw Failure(ErrorNumber::kOutsideTable); }
 void Grid::SetTextMatrix(int row, int column, std::string_view text) {
   std::string& cell = CellAt(row, column).text;
   if (cell == text) return;
-  cell.assign(text);
-  if (grid_observer != nullptr) grid_observer->RowsChanged(row, row);
+  if (cell.empty()) {
+    cell.append(text);  // quicker than to assign
+  } else {
+    cell.assign(text);
+  }
+  TextChanged(row);
+}
+
+void Grid::JoinTextMatrix(int row, int column, std::initializer_list<std::string_view> parts) {
+  std::string& cell = CellAt(row, column).text;
+  cell.clear();
+  for (const std::string_view part : parts) cell.append(part);
+  TextChanged(row);
 }
 
 void Grid::PaintBack(int row, int column, CellColor back) {

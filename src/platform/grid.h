@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -93,6 +94,8 @@ class Grid : public Control {
   /// with `kOutsideTable`, here and below.
   const std::string& TextMatrix(int row, int column) const { return CellAt(row, column).text; }
   void SetTextMatrix(int row, int column, std::string_view text);
+  /// Writes a text that is in parts, none of them of this cell.
+  void JoinTextMatrix(int row, int column, std::initializer_list<std::string_view> parts);
 
   CellColor BackColor(int row, int column) const { return CellAt(row, column).back; }
   CellColor ForeColor(int row, int column) const { return CellAt(row, column).fore; }
@@ -172,6 +175,9 @@ class Grid : public Control {
   void MakeRoom(int rows);
   void MoveTo(int row, int column);
   void KeepCurrentCellInside();
+  void TextChanged(int row) const {
+    if (grid_observer != nullptr) grid_observer->RowsChanged(row, row);
+  }
   void RowPainted(int row) const {
     if (grid_observer != nullptr) grid_observer->RowPainted(row);
   }

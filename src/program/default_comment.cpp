@@ -22,12 +22,7 @@ void ApplyDefaultComment(Session& session, int row) {
     table.SetTextMatrix(row, kCommentColumn, before);
     return;
   }
-  const std::string& operand = session.OperandOf(row);
-  const std::string_view after = AfterList(opcode);
-  std::string comment;
-  comment.reserve(before.size() + operand.size() + after.size());
-  comment.append(before).append(operand).append(after);
-  table.SetTextMatrix(row, kCommentColumn, comment);
+  table.JoinTextMatrix(row, kCommentColumn, {before, session.OperandOf(row), AfterList(opcode)});
 }
 
 }  // namespace quilla

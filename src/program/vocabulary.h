@@ -3,6 +3,8 @@
 #ifndef QUILLA_PROGRAM_VOCABULARY_H_
 #define QUILLA_PROGRAM_VOCABULARY_H_
 
+#include <string_view>
+
 #include "platform/grid.h"
 
 namespace quilla {
@@ -12,7 +14,7 @@ enum Column : int { kLabelColumn, kAddressColumn, kMnemonicColumn, kOpcodeColumn
 inline constexpr int kProgramColumns = 5;
 
 /// The fixed texts of rows and captions that the logic tests.
-inline constexpr const char* kOrigin = "Origin";
+inline constexpr std::string_view kOrigin = "Origin";
 inline constexpr const char* kDataMnemonic = "DFB";
 inline constexpr const char* kUnknownAddress = "XXXX";
 inline constexpr const char* kUnknownByte = "XX";

@@ -82,13 +82,6 @@ int Ask(QWidget* parent, QMessageBox::Icon icon, const QString& text,
   return box.exec();
 }
 
-/// Fills in a name, of which typing replaces what is before its ending.
-void FillIn(QFileDialog& dialog, const QString& name) {
-  dialog.selectFile(name);
-  auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-  if (edit != nullptr) edit->setSelection(0, static_cast<int>(name.lastIndexOf('.')));
-}
-
 /// Whether a file may be written where `path` leads, as the user answers.
 bool MayWrite(QFileDialog& dialog, const FileDialogRequest& request, const QString& path) {
   if ((request.flags & kPathMustExist) != 0 && !QFileInfo(path).dir().exists()) {
@@ -121,6 +114,12 @@ void MakeRoomForColumns(QFileDialog& dialog) {
   for (const QTreeView* list : dialog.findChildren<QTreeView*>()) {
     list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }
+}
+
+void FillIn(QFileDialog& dialog, const QString& name) {
+  dialog.selectFile(name);
+  auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+  if (edit != nullptr) edit->setSelection(0, static_cast<int>(name.lastIndexOf('.')));
 }
 
 // Qt's dialogs keep a file of settings in the user's folder; in a place that is no folder they

@@ -27,6 +27,9 @@ class QtFileDialogs : public FileDialogs {
 /// Gives a file dialog, before it opens, the width that its list of files takes.
 void MakeRoomForColumns(QFileDialog& dialog);
 
+/// Fills a name into a dialog that saves, so that typing replaces what is before its ending.
+void FillIn(QFileDialog& dialog, const QString& name);
+
 /// A filter such as "Hex Files(*.hex)|*.hex" in the form that Qt takes: "Hex Files (*.hex)".
 QString QtFilter(const std::string& filter);
 

@@ -30,7 +30,7 @@ QString AskForPdf(const QString& name) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
   MakeRoomForColumns(dialog);
-  dialog.selectFile(QFileInfo(name).completeBaseName() + ".pdf");
+  FillIn(dialog, QFileInfo(name).completeBaseName() + ".pdf");
   while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
     QString path = dialog.selectedFiles().constFirst();
     if (CanWrite(path)) return path;

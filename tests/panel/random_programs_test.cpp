@@ -115,8 +115,8 @@ class RandomProgramsTest : public ProgramTest, public testing::WithParamInterfac
   }
 
   int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
-  void Set(int row, int column, std::string text) {
-    program_.session().Table1.SetTextMatrix(row, column, std::move(text));
+  void Set(int row, int column, std::string_view text) {
+    program_.session().Table1.SetTextMatrix(row, column, text);
   }
 
   void MakeRow(int row) {

@@ -88,6 +88,7 @@ TEST_F(PrintTest, ARunIsOneDocumentWithEveryRowAtItsPage) {
   session().Table1.SetTextMatrix(6, kCommentColumn, wide + wide + wide + wide);
   WhenOpen<QFileDialog>([this](QFileDialog& dialog) {
     EXPECT_EQ(QFileInfo(dialog.selectedFiles().at(0)).fileName(), "Pgm1.pdf");
+    EXPECT_EQ(dialog.findChild<QLineEdit*>()->selectedText(), "Pgm1");
     ChooseFile(dialog, PathOf("run"));
   });
   ClickPrint();

@@ -7,10 +7,13 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyleHintReturnVariant>
+#include <QStyleOption>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -62,6 +65,24 @@ QString InstalledPath(const QString& path) {
   return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" QUILLA_TEXTS + path);
 }
 
+/// Shows the link with the focus as what is selected; the dots around it that styles have are
+/// hardly seen.
+class LinkFocusStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* result) const override {
+    auto* const look = qstyleoption_cast<QStyleHintReturnVariant*>(result);
+    if (hint != SH_TextControl_FocusIndicatorTextCharFormat || look == nullptr) {
+      return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+    QTextCharFormat format;
+    format.setBackground(option->palette.highlight());
+    format.setForeground(option->palette.highlightedText());
+    look->variant = format;
+    return 1;
+  }
+};
+
 void AddShortcut(GuideWindow* window, const QKeySequence& keys, const std::function<void()>& act) {
   QObject::connect(new QShortcut(keys, window), &QShortcut::activated, window, act);
 }
@@ -71,6 +92,9 @@ void AddShortcut(GuideWindow* window, const QKeySequence& keys, const std::funct
 GuidePage::GuidePage(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);
   document()->setDocumentMargin(kGuideMargin);
+  auto* const style = new LinkFocusStyle;
+  style->setParent(this);
+  setStyle(style);
   connect(this, &QTextBrowser::anchorClicked, this, &GuidePage::Follow);
 }
 

@@ -13,6 +13,7 @@
 #include "window/colors.h"
 #include "window/entries_model.h"
 #include "window/key_button.h"
+#include "window/key_router.h"
 #include "window/qt_text.h"
 
 namespace quilla {
@@ -104,6 +105,7 @@ bool IsPress(const QEvent& event) {
 // A button that acts while it is held is held from the press of either mouse button until that one
 // is let go, wherever the pointer is then. A key holds it in Qt's own way.
 void BindHolding(Gate& gate, Button& button, QAbstractButton& widget, Mirror& shown) {
+  widget.setProperty(kActsWhileHeld, true);
   QObject::connect(&widget, &QAbstractButton::pressed, &shown,
                    [&] { gate.Enter([&] { button.Press(); }); });
   QObject::connect(&widget, &QAbstractButton::released, &shown,

@@ -114,7 +114,8 @@ void FormMirror::SettleFocus() {
   focus_before_ = window_.focusWidget();
 }
 
-void FormMirror::ShowTablesFromTheTop() {
+void FormMirror::BeginAnew() {
+  if (QWidget* const last = window_.focusWidget()) last->clearFocus();
   for (GridView* table : window_.findChildren<GridView*>()) {
     table->scrollToTop();
     table->setCurrentIndex({});
@@ -139,14 +140,13 @@ bool FormMirror::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Show && watched == &window_) {
     focus_asked_ = true;
     focus_before_ = nullptr;
-    if (!event->spontaneous()) ShowTablesFromTheTop();
+    if (!event->spontaneous()) BeginAnew();
     SettleFocus();
     return false;
   }
   if (event->type() == QEvent::ApplicationPaletteChange && watched == qApp) ShowColors();
-  if (event->type() == QEvent::KeyRelease) {
-    keys_.Release(static_cast<const QKeyEvent&>(*event));
-    return false;
+  if (event->type() == QEvent::KeyRelease && watched->isWidgetType()) {
+    return keys_.Release(static_cast<QWidget&>(*watched), static_cast<const QKeyEvent&>(*event));
   }
   const bool is_key =
       event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;

@@ -69,7 +69,8 @@ class FormMirror final : public QObject, private ControlObserver {
   void ShowEnabled();
   void ShowPointer();
   void ShowColors();
-  void ShowTablesFromTheTop();
+  /// A window that opens again looks as it did the first time.
+  void BeginAnew();
 
   Gate& gate_;
   EventLoop& event_loop_;

@@ -178,6 +178,12 @@ void GridView::changeEvent(QEvent* event) {
   LayOutColumns();
 }
 
+void GridView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) {
+  const int row = currentIndex().row();
+  is_lost_ = is_lost_ || (row >= first && row <= last);
+  QTableView::rowsAboutToBeRemoved(parent, first, last);
+}
+
 void GridView::KeepInView(int row) {
   const int ahead = std::min(row + kRowsAhead, grid_.Rows() - 1);
   scrollTo(model()->index(ahead, 0));
@@ -188,8 +194,11 @@ void GridView::SyncWithGrid() {
   const auto shape =
       grid_.pointer() == GridPointer::kPick ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (viewport()->cursor().shape() != shape) viewport()->setCursor(shape);
-  if (hasFocus() && !currentIndex().isValid()) Land();
+  const int cursor_row = model_->cursor().row();
+  is_lost_ = std::exchange(cursor_row_, cursor_row) != cursor_row || is_lost_;
   if (press_row_ != kNone || key_anchor_.isValid()) return;
+  const bool follows = std::exchange(is_lost_, false) && model_->cursor().isValid();
+  if (follows || (hasFocus() && !currentIndex().isValid())) Land();
   ShowRows(SelectedRows());
 }
 

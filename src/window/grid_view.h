@@ -63,6 +63,7 @@ class GridView : public QTableView {
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
 
  private:
   void SetUpHeading();
@@ -91,6 +92,8 @@ class GridView : public QTableView {
   Gate& gate_;
   Grid& grid_;
   GridModel* const model_;
+  int cursor_row_ = kNone;  // as it was when the program left off last
+  bool is_lost_ = false;    // whether the cursor, or the row of the current cell, went elsewhere
   int press_row_ = kNone;
   int drag_row_ = kNone;              // where a drag stood last
   QPersistentModelIndex key_anchor_;  // where rows began to be selected with the keys

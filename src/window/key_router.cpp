@@ -1,9 +1,11 @@
 #include "window/key_router.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QPushButton>
+#include <utility>
 
 #include "platform/text_box.h"
 #include "platform/text_list.h"
@@ -14,6 +16,8 @@ namespace {
 
 /// No finger presses a key again so soon.
 constexpr quint64 kShortestPauseMs = 2;
+/// Within which a key that repeats has come again.
+constexpr int kLongestRepeatMs = 20;
 constexpr char16_t kFirstPrintable = u'!';
 constexpr char16_t kLastPrintable = u'~';
 
@@ -22,6 +26,16 @@ bool IsUsable(const Control* control) {
 }
 
 }  // namespace
+
+KeyRouter::KeyRouter(FormMirror& mirror) : mirror_(mirror) {
+  letting_go_.setSingleShot(true);
+  letting_go_.setInterval(kLongestRepeatMs);
+  QObject::connect(&letting_go_, &QTimer::timeout, &letting_go_, [this] {
+    const QPointer<QWidget> button = std::exchange(let_go_, nullptr);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier, " ");
+    if (button != nullptr) QCoreApplication::sendEvent(button, &release);
+  });
+}
 
 bool KeyRouter::Press(const QKeyEvent& key) {
   if (QAbstractButton* const button = ButtonOf(key)) {
@@ -61,18 +75,26 @@ bool KeyRouter::ChooseButton(Button* button) {
 
 // Where the window system repeats a key it lets it go and presses it again in one moment, and Qt,
 // that looks for it in what has come so far, may miss it.
-bool KeyRouter::IsHeld(const QWidget& widget, const QKeyEvent& key) const {
+bool KeyRouter::IsHeld(const QWidget& widget, const QKeyEvent& key) {
   const bool is_pressed_again = key.key() == released_ && key.timestamp() != 0 &&
                                 key.timestamp() <= released_at_ + kShortestPauseMs;
   if (!key.isAutoRepeat() && !is_pressed_again) return false;
+  letting_go_.stop();
   const bool writes_blanks = qobject_cast<const QLineEdit*>(&widget) != nullptr;
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
          (key.key() == Qt::Key_Space && !writes_blanks);
 }
 
-void KeyRouter::Release(const QKeyEvent& key) {
+bool KeyRouter::Release(QWidget& widget, const QKeyEvent& key) {
   released_ = key.key();
   released_at_ = key.timestamp();
+  const bool may_repeat = key.key() == Qt::Key_Space && key.timestamp() != 0 &&
+                          widget.property(kActsWhileHeld).toBool() &&
+                          widget.window() == &mirror_.window();
+  if (!may_repeat || key.isAutoRepeat()) return false;
+  let_go_ = &widget;
+  letting_go_.start();
+  return true;
 }
 
 // A button out of sight may have the focus, but does not show it.

@@ -4,6 +4,8 @@
 #ifndef QUILLA_WINDOW_KEY_ROUTER_H_
 #define QUILLA_WINDOW_KEY_ROUTER_H_
 
+#include <QPointer>
+#include <QTimer>
 #include <QtGlobal>
 
 #include "platform/button.h"
@@ -16,9 +18,12 @@ namespace quilla {
 
 class FormMirror;
 
+/// The property of a widget that acts while it is held, and not when it is let go.
+inline constexpr const char* kActsWhileHeld = "acts_while_held";
+
 class KeyRouter {
  public:
-  explicit KeyRouter(FormMirror& mirror) : mirror_(mirror) {}
+  explicit KeyRouter(FormMirror& mirror);
 
   /// Whether a button on view has this access key, which is then the button's, not that of a menu.
   bool IsAccessKey(const QKeyEvent& key) const { return ButtonOf(key) != nullptr; }
@@ -26,9 +31,10 @@ class KeyRouter {
   bool Press(const QKeyEvent& key);
   /// Whether a key only repeats, since it is held, what it pressed on `widget` or on another widget
   /// before: the one that has the focus now must not be pressed by it.
-  bool IsHeld(const QWidget& widget, const QKeyEvent& key) const;
-  /// Hears of every key that is let go, in whatever window.
-  void Release(const QKeyEvent& key);
+  bool IsHeld(const QWidget& widget, const QKeyEvent& key);
+  /// Hears of every key that is let go, in whatever window. True if it may only repeat, and the
+  /// button that it holds is told in a moment.
+  bool Release(QWidget& widget, const QKeyEvent& key);
 
  private:
   QAbstractButton* ButtonOf(const QKeyEvent& access_key) const;
@@ -40,6 +46,8 @@ class KeyRouter {
   FormMirror& mirror_;
   int released_ = 0;
   quint64 released_at_ = 0;
+  QPointer<QWidget> let_go_;  // a button that may be held on
+  QTimer letting_go_;
 };
 
 }  // namespace quilla

@@ -183,6 +183,34 @@ TEST_F(PanelTest, AnInterruptKeyIsHeldUntilItsButtonIsLetGo) {
   }
 }
 
+// Not every key that repeats is marked as such: it goes up and down in one moment.
+TEST_F(PanelTest, AnInterruptKeyIsHeldWhileSpaceRepeats) {
+  auto* const key = OpenSimulator().findChild<QAbstractButton*>("IButton 2");
+  const auto send = [key](QEvent::Type type, quint64 at) {
+    QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier, " ");
+    event.setTimestamp(at);
+    QApplication::sendEvent(key, &event);
+  };
+  send(QEvent::KeyPress, 1000);
+  send(QEvent::KeyRelease, 1500);
+  send(QEvent::KeyPress, 1500);
+  QTest::qWait(50);
+  EXPECT_EQ(key->text(), "1");
+  send(QEvent::KeyRelease, 2000);
+  EXPECT_TRUE(QTest::qWaitFor([key] { return key->text() == "0"; }));
+}
+
+TEST_F(TableTest, TheCurrentCellFollowsTheCursor) {
+  table().setFocus();
+  table().setCurrentIndex(table().model()->index(7, kMnemonicColumn));
+  Click("INST 78");
+  EXPECT_EQ(table().currentIndex().row(), 2);
+  table().setCurrentIndex(table().model()->index(0, kMnemonicColumn));
+  session().FileChanged = false;
+  Play("NewFile");
+  EXPECT_EQ(table().currentIndex().row(), 1);
+}
+
 TEST_F(TableTest, AKeyTouchesItsRowsAndNoOthers) {
   QAbstractItemModel* const model = table().model();
   const QSignalSpy resets(model, &QAbstractItemModel::modelReset);

@@ -67,7 +67,6 @@ void CaptionBar::ShowSpeed(int speed) {
 void CaptionBar::ShowOver() {
   for (QPushButton* button : {pause_, step_, faster_}) button->hide();
   stop_->setText(tr("Close"));
-  stop_->setToolTip({});
 }
 
 void CaptionBar::StandOver(QWidget& window) {

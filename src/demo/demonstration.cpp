@@ -79,10 +79,7 @@ Demonstration::Demonstration(Quilla& quilla, QtOutside& outside, const QString& 
   connect(&bar_, &CaptionBar::PauseClicked, this, &Demonstration::TogglePause);
   connect(&bar_, &CaptionBar::StepClicked, this, &Demonstration::Step);
   connect(&bar_, &CaptionBar::FasterClicked, this, &Demonstration::Hurry);
-  connect(&bar_, &CaptionBar::StopClicked, this, [this] {
-    Stop();
-    bar_.hide();
-  });
+  connect(&bar_, &CaptionBar::StopClicked, this, &Demonstration::End);
 }
 
 void Demonstration::Begin() {
@@ -96,9 +93,14 @@ void Demonstration::Stop() {
   over_ = true;
   outside_.serial_port().LeadTo(nullptr);
   timer_.stop();
-  qApp->removeEventFilter(this);
   bar_.ShowOver();
   if (act_ != nullptr) act_->quit();
+}
+
+void Demonstration::End() {
+  Stop();
+  qApp->removeEventFilter(this);
+  bar_.hide();
 }
 
 void Demonstration::QueuePath(std::optional<std::string> path) {
@@ -286,8 +288,9 @@ void Demonstration::Hurry() {
 
 // The windows of the program take no input but that of the demonstration; boxes and the guide do.
 bool Demonstration::eventFilter(QObject* watched, QEvent* event) {
-  if (over_ || !event->spontaneous() || !watched->isWidgetType()) return false;
+  if (!event->spontaneous() || !watched->isWidgetType()) return false;
   if (!IsOfProgram(*static_cast<QWidget*>(watched)->window())) return false;
+  if (over_) return EndsBy(*event);
   if (event->type() == QEvent::Close) {
     Stop();
     return false;
@@ -298,11 +301,18 @@ bool Demonstration::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
+// The first Esc after the last caption takes that away, and does nothing else.
+bool Demonstration::EndsBy(const QEvent& event) {
+  const bool is_key = event.type() == QEvent::KeyPress;
+  if (!is_key || static_cast<const QKeyEvent&>(event).key() != Qt::Key_Escape) return false;
+  End();
+  return true;
+}
+
 void Demonstration::GuideBy(int key) {
   switch (key) {
     case Qt::Key_Escape:
-      Stop();
-      bar_.hide();
+      End();
       break;
     case Qt::Key_Space:
       TogglePause();

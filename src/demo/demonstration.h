@@ -39,6 +39,8 @@ class Demonstration : public QObject, private WindowHands, private robot::Surrou
   /// Plays from the first line. Until the end the serial port leads to a trainer board of its own.
   void Begin();
   void Stop();
+  /// Stops, and takes the caption away.
+  void End();
   /// Whether it plays, or an act of it still waits for a dialog that it opened.
   bool is_under_way() const { return !over_ || depth_ > 0; }
   bool is_over() const { return over_; }
@@ -84,6 +86,7 @@ class Demonstration : public QObject, private WindowHands, private robot::Surrou
   void Step();
   void Hurry();
   void GuideBy(int key);
+  bool EndsBy(const QEvent& event);
 
   Quilla& quilla_;
   QtOutside& outside_;

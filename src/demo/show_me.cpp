@@ -17,6 +17,7 @@ void ShowMe::Begin(const QString& name) {
     return;
   }
   if (!ClearTable()) return;
+  CloseOtherWindows();
   demonstration_ =
       std::make_unique<Demonstration>(quilla_, outside_, QString::fromUtf8(file.readAll()));
   demonstration_->set_pace(pace_ms_);
@@ -27,6 +28,14 @@ bool ShowMe::MayBegin() {
   const bool waits = demonstration_ != nullptr && demonstration_->is_under_way();
   return !waits && QApplication::activeModalWidget() == nullptr &&
          quilla_.panel()->session().menu.NewFile.IsEnabled();
+}
+
+// They would stand before the table.
+void ShowMe::CloseOtherWindows() {
+  for (Form* form : quilla_.Forms()) {
+    if (form == &quilla_.panel()->form() || !form->visible()) continue;
+    outside_.gate().Enter([&] { outside_.event_loop().CloseByFrame(*form); });
+  }
 }
 
 bool ShowMe::ClearTable() {

@@ -25,6 +25,7 @@ class ShowMe {
  private:
   bool MayBegin();
   bool ClearTable();
+  void CloseOtherWindows();
 
   Quilla& quilla_;
   QtOutside& outside_;

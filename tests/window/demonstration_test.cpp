@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <sstream>
 
 #include "demo/show_me.h"
@@ -91,6 +92,13 @@ TEST_F(DemonstrationTest, LeavesADialogOpenWhereItIsStopped) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return IsOver(); }));
   EXPECT_TRUE(held);
   EXPECT_EQ(session().XXEqtList.items().front(), kUnknownByte);
+  QWidget* const window = outside_.event_loop().WindowOf(quilla_.panel()->form());
+  const QWidgetList tops = QApplication::topLevelWidgets();
+  const auto is_bar = [](const QWidget* top) { return top->objectName() == u"CaptionBar"; };
+  const QWidget* const bar = *std::find_if(tops.begin(), tops.end(), is_bar);
+  EXPECT_TRUE(bar->isVisible());
+  QTest::keyClick(window, Qt::Key_Escape);
+  EXPECT_FALSE(bar->isVisible());
 }
 
 }  // namespace

@@ -97,7 +97,9 @@ QString NumberHint(const FormMirror& mirror) {
 }
 
 QString CommentHint(const FormMirror& mirror) {
-  QStringList lines("Any text; \" and & cannot be typed.\nIgnore gives the old one back.");
+  QStringList lines(
+      "Pick the row first: click it, or Space on it.\n"
+      "Any text; \" and & cannot be typed.\nIgnore gives the old one back.");
   if (!mirror.Get<Button>("DefaultCommentButton").enabled()) {
     lines << "Default Comment is grey: no instruction.";
   }

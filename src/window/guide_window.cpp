@@ -103,13 +103,23 @@ void GuidePage::TurnTo(const QString& anchor) {
   if (!anchor.isEmpty()) url.setFragment(anchor);
   setSource(url, QTextDocument::HtmlResource);
   document()->documentLayout()->documentSize();  // lays out all, so that a place is where it stays
-  setTextCursor(cursorForPosition({}));          // Tab goes on to the first link from here
 }
 
 // The colours of links stand in the page that has been read.
 void GuidePage::changeEvent(QEvent* event) {
   QTextBrowser::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && !source().isEmpty()) reload();
+}
+
+// Tab goes on from what is being read, which may be far from the link that had the focus last.
+bool GuidePage::focusNextPrevChild(bool next) {
+  const QRect view = viewport()->rect();
+  if (!textCursor().hasSelection() || !view.intersects(cursorRect())) {
+    QTextCursor here = cursorForPosition(next ? view.topLeft() : view.bottomRight());
+    here.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+    setTextCursor(here);
+  }
+  return QTextBrowser::focusNextPrevChild(next);
 }
 
 void GuidePage::Zoom(int steps) {

@@ -24,6 +24,7 @@ class GuidePage : public QTextBrowser {
 
  protected:
   void changeEvent(QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  Q_SIGNALS:
   /// A demonstration was chosen, by its name.

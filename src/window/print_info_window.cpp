@@ -1,8 +1,10 @@
 #include "window/print_info_window.h"
 
 #include <QGridLayout>
+#include <QShortcut>
 
 #include "window/bindings.h"
+#include "window/quiet_label.h"
 
 namespace quilla {
 namespace {
@@ -28,6 +30,9 @@ PrintInfoWindow::PrintInfoWindow(Gate& gate, EventLoop& event_loop, Form& form)
     ++place;
   }
   grid->setRowStretch(grid->rowCount(), 1);
+  auto* const close = new QuietLabel("Esc closes this window.", this);
+  grid->addWidget(close, grid->rowCount(), 0, 1, kColumns);
+  connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 }  // namespace quilla

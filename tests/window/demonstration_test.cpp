@@ -4,8 +4,11 @@
 #include <QApplication>
 #include <QFile>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <sstream>
 
@@ -30,6 +33,11 @@ class DemonstrationTest : public testing::Test {
 
   Session& session() { return quilla_.panel()->session(); }
   bool IsOver() { return !show_me_.demonstration()->is_under_way(); }
+  static QWidget& Bar() {
+    const QWidgetList tops = QApplication::topLevelWidgets();
+    const auto is_bar = [](const QWidget* top) { return top->objectName() == u"CaptionBar"; };
+    return **std::find_if(tops.begin(), tops.end(), is_bar);
+  }
 
   QtOutside outside_;
   Quilla quilla_{outside_.ports()};
@@ -66,7 +74,12 @@ TEST_F(DemonstrationTest, EveryOneEndsInTheWindowAsOnTheModels) {
     EXPECT_EQ(Cells(session().Table1), Cells(model.Table1)) << name;
     EXPECT_EQ(session().HexList.items(), model.HexList.items()) << name;
     EXPECT_EQ(session().CurrentPanelState, PanelState::kReady) << name;
+    EXPECT_TRUE(Bar().isVisible() && Bar().screen()->geometry().contains(Bar().geometry())) << name;
   }
+  QWidget* const panel = outside_.event_loop().WindowOf(quilla_.panel()->form());
+  EXPECT_EQ(Bar().windowHandle()->transientParent(), panel->windowHandle());
+  QTest::keyClick(panel, Qt::Key_Escape);
+  EXPECT_FALSE(Bar().isVisible());
 }
 
 TEST_F(DemonstrationTest, AsksBeforeItTakesTheTable) {
@@ -83,7 +96,7 @@ TEST_F(DemonstrationTest, LeavesADialogOpenWhereItIsStopped) {
   QObject::connect(&look, &QTimer::timeout, [&] {
     QWidget* const dialog = QApplication::activeModalWidget();
     if (dialog == nullptr) return;
-    show_me_.demonstration()->Stop();
+    Bar().findChildren<QPushButton*>().last()->click();
     held = !IsOver();  // by the dialog, until the user closes it
     dialog->close();
   });
@@ -92,13 +105,7 @@ TEST_F(DemonstrationTest, LeavesADialogOpenWhereItIsStopped) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return IsOver(); }));
   EXPECT_TRUE(held);
   EXPECT_EQ(session().XXEqtList.items().front(), kUnknownByte);
-  QWidget* const window = outside_.event_loop().WindowOf(quilla_.panel()->form());
-  const QWidgetList tops = QApplication::topLevelWidgets();
-  const auto is_bar = [](const QWidget* top) { return top->objectName() == u"CaptionBar"; };
-  const QWidget* const bar = *std::find_if(tops.begin(), tops.end(), is_bar);
-  EXPECT_TRUE(bar->isVisible());
-  QTest::keyClick(window, Qt::Key_Escape);
-  EXPECT_FALSE(bar->isVisible());
+  EXPECT_FALSE(Bar().isVisible());
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ QString QtSerialPort::DeviceOf(int number) const {
   return "COM" + QString::number(number);
 #else
   for (const QString& prefix : prefixes_) {
-    const QString device = prefix + QString::number(number - 1);
+    QString device = prefix + QString::number(number - 1);
     if (QFileInfo::exists(device)) return device;
   }
   throw Failure(ErrorNumber::kPortMissing);

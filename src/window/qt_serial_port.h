@@ -19,7 +19,7 @@ namespace quilla {
 /// on Windows it is COM1. A write goes to the driver as far as that takes it, the rest into a queue
 /// of 512 bytes. A port that is closed sends on in the background what it was given: opening it
 /// again waits for that, and so does the destructor.
-class QtSerialPort : public SerialPort {
+class QtSerialPort final : public SerialPort {
  public:
   /// `turn` lets waiting events be handled, and waits a moment for one.
   explicit QtSerialPort(std::function<void()> turn,

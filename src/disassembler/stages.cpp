@@ -1,8 +1,6 @@
 #include "disassembler/stages.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -18,15 +16,29 @@ namespace {
 
 constexpr char kVariablePrefix = 'v';
 constexpr char kLabelPrefix = 'a';
-constexpr std::size_t kLongestName = 12;  // a prefix, a sign and ten digits
 constexpr std::string_view kBeforeOperand = "  ";
 
-/// Adds the prefix with the number behind it to the names.
-const std::string& AddName(char prefix, int number, std::vector<std::string>& names) {
-  std::array<char, kLongestName> text = {prefix};
-  const char* const end = std::to_chars(text.begin() + 1, text.end(), number).ptr;
-  return names.emplace_back(text.data(), static_cast<std::size_t>(end - text.data()));
-}
+/// The names of a prefix with the numbers from 0 on, counted in their digits.
+class NumberedNames {
+ public:
+  explicit NumberedNames(char prefix) : next_{prefix, '0'} {}
+
+  /// Adds the next name to the names.
+  const std::string& AddTo(std::vector<std::string>& names) {
+    names.push_back(next_);
+    std::size_t digit = next_.size() - 1;
+    while (next_[digit] == '9') next_[digit--] = '0';
+    if (digit > 0) {
+      ++next_[digit];
+    } else {
+      next_.insert(1, 1, '1');
+    }
+    return names.back();
+  }
+
+ private:
+  std::string next_;
+};
 
 /// The first place that each address was given. An address of four digits has its slot in a table,
 /// which is quicker than a hash of up to 65,536 texts; any other text is hashed.
@@ -83,7 +95,8 @@ class OperandNames {
   /// A new variable for a byte.
   const std::string& VariableFor(std::string_view byte) {
     bytes_.emplace_back(byte);
-    return AddName(kVariablePrefix, session_.NextVariableNumber++, variables_);
+    ++session_.NextVariableNumber;
+    return new_variables_.AddTo(variables_);
   }
 
   /// The first label with this address, or a new one.
@@ -92,7 +105,8 @@ class OperandNames {
     if (place == next_place_) {
       ++next_place_;
       addresses_.push_back(std::move(address));
-      AddName(kLabelPrefix, session_.NextLabelNumber++, labels_);
+      ++session_.NextLabelNumber;
+      new_labels_.AddTo(labels_);
     }
     return labels_[static_cast<std::size_t>(place)];
   }
@@ -111,6 +125,8 @@ class OperandNames {
   std::vector<std::string> addresses_;
   std::vector<std::string> variables_;
   std::vector<std::string> bytes_;
+  NumberedNames new_variables_{kVariablePrefix};
+  NumberedNames new_labels_{kLabelPrefix};
   FirstPlaces places_;  // in addresses_
   int next_place_ = 0;
 };

@@ -2,6 +2,8 @@
 #ifndef QUILLA_PLATFORM_NUMBER_TEXT_H_
 #define QUILLA_PLATFORM_NUMBER_TEXT_H_
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -32,13 +34,20 @@ inline std::string AddressText(std::int64_t address) {
   return PaddedHexText(address, kAddressDigits);
 }
 
+/// The values of all characters as hexadecimal digits, -1 for those that are none.
+inline constexpr std::array<signed char, 0x100> kValuesOfDigits = [] {
+  std::array<signed char, 0x100> values{};
+  for (signed char& value : values) value = -1;
+  for (signed char i = 0; i < 10; ++i) values[static_cast<std::size_t>('0' + i)] = i;
+  for (signed char i = 10; i < 0x10; ++i) {
+    values[static_cast<std::size_t>('A' + i - 10)] = i;
+    values[static_cast<std::size_t>('a' + i - 10)] = i;
+  }
+  return values;
+}();
+
 /// The value of one hexadecimal digit, or -1 for another character.
-constexpr int DigitValue(char digit) {
-  if (digit >= '0' && digit <= '9') return digit - '0';
-  if (digit >= 'A' && digit <= 'F') return digit - 'A' + 10;
-  if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
-  return -1;
-}
+constexpr int DigitValue(char digit) { return kValuesOfDigits[static_cast<unsigned char>(digit)]; }
 
 }  // namespace quilla
 

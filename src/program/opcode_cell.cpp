@@ -56,8 +56,8 @@ std::string WithLabel(std::string_view cell, std::string_view address) {
 }
 
 std::string AddressIn(std::string_view cell) {
-  std::string address(ByteAt(cell, 2));
-  address.append(ByteAt(cell, 1));
+  std::string address;
+  address.append(ByteAt(cell, 2)).append(ByteAt(cell, 1));
   return address;
 }
 

@@ -5,18 +5,6 @@
 namespace quilla {
 namespace {
 
-/// A column of the program table: its width in 1/1440 inch, and how its texts stand.
-struct ColumnLook {
-  int width;
-  ColumnAlignment alignment;
-};
-
-constexpr ColumnLook kColumns[] = {{1080, kAlignCentreTop},
-                                   {600, kAlignCentreTop},
-                                   {1680, kAlignLeft},
-                                   {1080, kAlignLeft},
-                                   {7140, kAlignLeft}};
-
 constexpr const char* kSerialSettings = "2400,N,8,1";
 constexpr int kFirstPort = 1;
 constexpr std::size_t kAllThatHasArrived = 0;
@@ -32,8 +20,9 @@ void ProgrammingPanel::Form_Load() {
   session_.MSComm1.InputLen = kAllThatHasArrived;
   form().set_caption(std::string(kTitle) + kVersion);
   for (int column = 0; column < kProgramColumns; ++column) {
-    session_.Table1.SetColWidth(column, kColumns[column].width);
-    session_.Table1.SetColAlignment(column, kColumns[column].alignment);
+    session_.Table1.SetColWidth(column, kProgramColWidthList[column]);
+    session_.Table1.SetColAlignment(column,
+                                    column <= kAddressColumn ? kAlignCentreTop : kAlignLeft);
   }
   new_file_.NewFile_Click();
 }

@@ -6,9 +6,7 @@
 namespace quilla {
 namespace {
 
-// Widths in 1/1440 inch.
-constexpr int kPrintedWidthList[] = {1080, 600, 1680, 1080, 7140};
-constexpr int kLabelColWidthList[] = {1020, 1020, 900};
+constexpr int kLabelColWidthList[] = {1020, 1020, 900};  // in 1/1440 inch
 constexpr CellColor kShade{0xD0D0D0};
 
 constexpr int kPairStep = static_cast<int>(std::size(kLabelColWidthList));
@@ -25,7 +23,7 @@ void PageLayout::WriteHead(const Session& session, const PrintState& state) {
 PrintPanel::PrintPanel() : PageLayout("PrintPanel") {
   Table.SetRows(kRowsOfPage);
   for (int column = 0; column < Table.Cols(); ++column) {
-    Table.SetColWidth(column, kPrintedWidthList[column]);
+    Table.SetColWidth(column, kProgramColWidthList[column]);
     Table.SetColAlignment(column, column <= kAddressColumn ? kAlignCentre : kAlignLeft);
   }
 }

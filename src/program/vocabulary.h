@@ -12,6 +12,8 @@ namespace quilla {
 /// The columns of `Table1`.
 enum Column : int { kLabelColumn, kAddressColumn, kMnemonicColumn, kOpcodeColumn, kCommentColumn };
 inline constexpr int kProgramColumns = 5;
+/// Their widths in 1/1440 inch, in the window and on paper.
+inline constexpr int kProgramColWidthList[kProgramColumns] = {1080, 600, 1680, 1080, 7140};
 
 /// The fixed texts of rows and captions that the logic tests.
 inline constexpr std::string_view kOrigin = "Origin";

@@ -303,7 +303,7 @@ bool Demonstration::eventFilter(QObject* watched, QEvent* event) {
 
 // The first Esc after the last caption takes that away, and does nothing else.
 bool Demonstration::EndsBy(const QEvent& event) {
-  const bool is_key = event.type() == QEvent::KeyPress;
+  const bool is_key = event.type() == QEvent::KeyPress && bar_.isVisible();
   if (!is_key || static_cast<const QKeyEvent&>(event).key() != Qt::Key_Escape) return false;
   End();
   return true;

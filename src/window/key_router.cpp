@@ -79,7 +79,7 @@ bool KeyRouter::IsHeld(const QWidget& widget, const QKeyEvent& key) {
   const bool is_pressed_again = key.key() == released_ && key.timestamp() != 0 &&
                                 key.timestamp() <= released_at_ + kShortestPauseMs;
   if (!key.isAutoRepeat() && !is_pressed_again) return false;
-  letting_go_.stop();
+  if (key.key() == Qt::Key_Space) letting_go_.stop();
   const bool writes_blanks = qobject_cast<const QLineEdit*>(&widget) != nullptr;
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
          (key.key() == Qt::Key_Space && !writes_blanks);

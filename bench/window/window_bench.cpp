@@ -175,28 +175,21 @@ void BM_PlaceLabelInWindow(benchmark::State& state) {
 }
 BENCHMARK(BM_PlaceLabelInWindow)->Apply(OverSizes);
 
-void BM_PasteTenthInWindow(benchmark::State& state) {
+void PasteInWindow(benchmark::State& state, int rows) {
   RunInWindow(
       state, kMostForCommand,
-      [](PanelFixture& panel) {
+      [rows](PanelFixture& panel) {
         panel.DeletePasted();
-        panel.CopyTenth();
+        panel.CopyRows(rows);
       },
       [](PanelFixture& panel) { panel.Click(panel.session().menu.PasteEdit); },
-      [](PanelFixture& panel) { return panel.IsTenthPasted(); });
+      [rows](PanelFixture& panel) { return panel.PastedRows() == rows; });
 }
+
+void BM_PasteTenthInWindow(benchmark::State& state) { PasteInWindow(state, RowsOf(state) / 10); }
 BENCHMARK(BM_PasteTenthInWindow)->Apply(OverSizes);
 
-void BM_PasteFewInWindow(benchmark::State& state) {
-  RunInWindow(
-      state, kMostForCommand,
-      [](PanelFixture& panel) {
-        panel.DeletePasted();
-        panel.CopyRows(kFewRows);
-      },
-      [](PanelFixture& panel) { panel.Click(panel.session().menu.PasteEdit); },
-      [](PanelFixture& panel) { return panel.PastedRows() == kFewRows; });
-}
+void BM_PasteFewInWindow(benchmark::State& state) { PasteInWindow(state, kFewRows); }
 BENCHMARK(BM_PasteFewInWindow)->Apply(OverSizes);
 
 }  // namespace

@@ -18,14 +18,17 @@ constexpr char kVariablePrefix = 'v';
 constexpr char kLabelPrefix = 'a';
 constexpr std::string_view kBeforeOperand = "  ";
 
-/// The names of a prefix with the numbers from 0 on, counted in their digits.
+/// The names of a prefix with the numbers from 0 on, counted in their digits and in `next_number`.
 class NumberedNames {
  public:
-  explicit NumberedNames(char prefix) : next_{prefix, '0'} {}
+  NumberedNames(char prefix, int& next_number) : next_{prefix, '0'}, next_number_(next_number) {
+    next_number_ = 0;
+  }
 
   /// Adds the next name to the names.
   const std::string& AddTo(std::vector<std::string>& names) {
     names.push_back(next_);
+    ++next_number_;
     std::size_t digit = next_.size() - 1;
     while (next_[digit] == '9') next_[digit--] = '0';
     if (digit > 0) {
@@ -38,6 +41,7 @@ class NumberedNames {
 
  private:
   std::string next_;
+  int& next_number_;
 };
 
 /// The first place that each address was given. An address of four digits has its slot in a table,
@@ -95,7 +99,6 @@ class OperandNames {
   /// A new variable for a byte.
   const std::string& VariableFor(std::string_view byte) {
     bytes_.emplace_back(byte);
-    ++session_.NextVariableNumber;
     return new_variables_.AddTo(variables_);
   }
 
@@ -105,7 +108,6 @@ class OperandNames {
     if (place == next_place_) {
       ++next_place_;
       addresses_.push_back(std::move(address));
-      ++session_.NextLabelNumber;
       new_labels_.AddTo(labels_);
     }
     return labels_[static_cast<std::size_t>(place)];
@@ -125,8 +127,8 @@ class OperandNames {
   std::vector<std::string> addresses_;
   std::vector<std::string> variables_;
   std::vector<std::string> bytes_;
-  NumberedNames new_variables_{kVariablePrefix};
-  NumberedNames new_labels_{kLabelPrefix};
+  NumberedNames new_variables_{kVariablePrefix, session_.NextVariableNumber};
+  NumberedNames new_labels_{kLabelPrefix, session_.NextLabelNumber};
   FirstPlaces places_;  // in addresses_
   int next_place_ = 0;
 };
@@ -153,8 +155,6 @@ void CopyOpcodes(const ProgramLayout& layout, Session& session, Rows& rows, Orig
 
 void NameOperands(const ProgramLayout& layout, Session& session) {
   Grid& table = session.Table1;
-  session.NextVariableNumber = 0;
-  session.NextLabelNumber = 0;
   OperandNames names(session);
   for (int row = 0; row < table.Rows(); ++row) {
     const std::string& cell = table.TextMatrix(row, kOpcodeColumn);

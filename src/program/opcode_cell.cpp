@@ -32,7 +32,14 @@ std::string_view ByteAt(std::string_view cell, int index) {
   return Part(cell, static_cast<std::size_t>(index) * kByteStep);
 }
 
-int OpcodeOf(std::string_view cell) { return static_cast<int>(HexValue(ByteAt(cell, 0))); }
+int OpcodeOf(std::string_view cell) {
+  if (cell.size() >= kDigits) {
+    const int high = DigitValue(cell[0]);
+    const int low = DigitValue(cell[1]);
+    if (high >= 0 && low >= 0) return high * 0x10 + low;
+  }
+  return static_cast<int>(HexValue(ByteAt(cell, 0)));
+}
 
 std::string OpcodeCell(int opcode) { return PaddedHexText(opcode, kByteDigits); }
 
@@ -56,9 +63,10 @@ std::string WithLabel(std::string_view cell, std::string_view address) {
 }
 
 std::string AddressIn(std::string_view cell) {
-  std::string address;
-  address.append(ByteAt(cell, 2)).append(ByteAt(cell, 1));
-  return address;
+  const std::string_view high = ByteAt(cell, 2);
+  const std::string_view low = ByteAt(cell, 1);
+  if (high.size() == kDigits) return {high[0], high[1], low[0], low[1]};
+  return std::string(high).append(low);
 }
 
 }  // namespace quilla

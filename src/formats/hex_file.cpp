@@ -27,7 +27,7 @@ CommonDialog HexDialog(Session& session, const char* title) {
 void WriteRecords(Session& session, int channel) {
   std::string text;
   for (const std::string& record : session.HexList.items()) {
-    AppendLine(text, {FileItem::Text(record)});
+    AppendText(text, record);
   }
   FileChannels& file = session.channels;
   file.OpenOutput(channel, session.HexPath);

@@ -197,8 +197,8 @@ void ProjectFile::ReadProject() {
 void ProjectFile::ReadStrings(TextList& names, TextList& equivalents) {
   const int count = session_.channels.ReadNumber16(kChannel);
   for (int i = 0; i < count; ++i) {
-    names.Set(i, session_.channels.ReadText(kChannel));
-    equivalents.Set(i, session_.channels.ReadText(kChannel));
+    names.Set(i, std::string(session_.channels.ReadText(kChannel)));
+    equivalents.Set(i, std::string(session_.channels.ReadText(kChannel)));
   }
 }
 

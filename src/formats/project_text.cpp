@@ -21,9 +21,10 @@ void AppendStrings(std::string& text, const TextList& names, const TextList& equ
   if (names.Count() > std::numeric_limits<std::int16_t>::max()) {
     throw Failure(ErrorNumber::kOverflow);
   }
-  AppendLine(text, {FileItem::Number(names.Count())});
+  AppendNumber(text, names.Count());
   for (int i = 0; i < names.Count(); ++i) {
-    AppendLine(text, {FileItem::Text(names[i]), FileItem::Text(equivalents[i])});
+    AppendText(text, names[i], kNextItem);
+    AppendText(text, equivalents[i]);
   }
 }
 
@@ -32,22 +33,22 @@ void AppendStrings(std::string& text, const TextList& names, const TextList& equ
 std::string ProjectText(const Session& session) {
   const Grid& table = session.Table1;
   std::string text;
-  AppendLine(text, {FileItem::Text(kWarning)});
-  AppendLine(text, {FileItem::Text(kFormatTag)});
-  AppendLine(text, {FileItem::Number(table.Rows())});
+  AppendText(text, kWarning);
+  AppendText(text, kFormatTag);
+  AppendNumber(text, table.Rows());
   for (int row = 0; row < table.Rows(); ++row) {
     for (int column = 0; column < kProgramColumns; ++column) {
       const bool is_kept = column != kAddressColumn || session.IsOrigin(row);
       std::string_view cell;
       if (is_kept) cell = table.TextMatrix(row, column);
-      AppendLine(text, {FileItem::Text(cell)});
+      AppendText(text, cell);
     }
-    AppendLine(text, {FileItem::Text(session.OperandOf(row))});
+    AppendText(text, session.OperandOf(row));
   }
-  AppendLine(text, {FileItem::Text(kEndOfTable)});
+  AppendText(text, kEndOfTable);
   AppendStrings(text, session.LabelCombo, session.LabelEqtList);
   AppendStrings(text, session.XXCombo, session.XXEqtList);
-  AppendLine(text, {FileItem::Text(kEndOfFile)});
+  AppendText(text, kEndOfFile);
   return text;
 }
 

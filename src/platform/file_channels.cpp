@@ -1,5 +1,6 @@
 #include "platform/file_channels.h"
 
+#include <algorithm>
 #include <limits>
 #include <new>
 #include <utility>
@@ -13,13 +14,7 @@ namespace {
 constexpr char kQuote = '"';
 constexpr char kComma = ',';
 constexpr std::string_view kDelimiters = ",\r\n";
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kBlockSize = 0x40000;
-
-constexpr auto kFindQuote = [](std::string_view text) { return text.find(kQuote); };
-constexpr auto kFindDelimiter = [](std::string_view text) {
-  return text.find_first_of(kDelimiters);
-};
 
 template <typename Number>
 Number Narrow(std::int64_t value) {
@@ -29,25 +24,46 @@ Number Narrow(std::int64_t value) {
   return static_cast<Number>(value);
 }
 
-}  // namespace
-
-void FileItem::AppendTo(std::string& line) const {
-  if (const auto* const number = std::get_if<std::int64_t>(&value_)) {
-    line += std::to_string(*number);
-  } else {
-    line += kQuote;
-    line += std::get<std::string_view>(value_);
-    line += kQuote;
-  }
+/// Takes the first character off a text if it is this one.
+bool Skip(std::string_view& text, char c) {
+  if (!text.starts_with(c)) return false;
+  text.remove_prefix(1);
+  return true;
 }
 
-void AppendLine(std::string& text, std::initializer_list<FileItem> items) {
-  const std::size_t line_start = text.size();
-  for (const FileItem& item : items) {
-    if (text.size() > line_start) text += kComma;
-    item.AppendTo(text);
+/// An item: what it holds, and how many characters it takes with its quotes and its delimiter.
+struct Item {
+  std::string_view text;
+  std::size_t size;
+};
+
+/// The item that a text begins with.
+Item FirstItem(std::string_view text) {
+  std::string_view behind = text;
+  const bool quoted = Skip(behind, kQuote);
+  std::string_view item = behind;
+  item = item.substr(0, quoted ? item.find(kQuote) : item.find_first_of(kDelimiters));
+  behind.remove_prefix(item.size());
+  if (quoted) Skip(behind, kQuote);
+  if (!Skip(behind, kComma)) {
+    Skip(behind, '\r');
+    Skip(behind, '\n');
   }
-  text += kLineEnd;
+  return {item, text.size() - behind.size()};
+}
+
+}  // namespace
+
+void AppendText(std::string& file, std::string_view text, std::string_view end) {
+  file += kQuote;
+  file += text;
+  file += kQuote;
+  file += end;
+}
+
+void AppendNumber(std::string& file, std::int64_t number) {
+  file += std::to_string(number);
+  file += kLineEnd;
 }
 
 bool FileChannels::File::Flush() {
@@ -55,50 +71,28 @@ bool FileChannels::File::Flush() {
   return flushed;
 }
 
-void FileChannels::File::ReadBlock() {
-  read.resize(kBlockSize);
-  const std::optional<std::size_t> size = stored->Read(read.data(), kBlockSize);
-  if (!size) throw Failure(ErrorNumber::kReadFailed);
-  read.resize(*size);
+bool FileChannels::File::ReadMore() {
+  read.erase(0, taken);
   taken = 0;
+  const std::size_t known = read.size();
+  read.resize(known + std::max(known, kBlockSize));
+  const std::optional<std::size_t> size = stored->Read(&read[known], read.size() - known);
+  if (!size) throw Failure(ErrorNumber::kReadFailed);
+  read.resize(known + *size);
+  return *size > 0;
 }
 
-bool FileChannels::File::AtEnd() {
-  if (!IsInBlock()) ReadBlock();
-  return !IsInBlock();
-}
-
-bool FileChannels::File::TakeIf(char c) {
-  if (AtEnd() || read[taken] != c) return false;
-  ++taken;
-  return true;
-}
-
-template <typename Find>
-std::string_view FileChannels::File::TakeFromBlock(const Find& find) {
-  std::string_view text = read;
-  text.remove_prefix(taken);
-  text = text.substr(0, find(text));
-  taken += text.size();
-  return text;
-}
-
-template <typename Find>
-std::string FileChannels::File::TakeUntil(const Find& find) {
-  std::string text(TakeFromBlock(find));
-  while (!IsInBlock() && !AtEnd()) text += TakeFromBlock(find);
-  return text;
-}
-
-std::string FileChannels::File::TakeItem() {
-  if (AtEnd()) throw Failure(ErrorNumber::kPastEndOfFile);
-  const bool quoted = TakeIf(kQuote);
-  std::string item = quoted ? TakeUntil(kFindQuote) : TakeUntil(kFindDelimiter);
-  if (quoted) TakeIf(kQuote);
-  if (TakeIf(kComma)) return item;
-  TakeIf('\r');
-  TakeIf('\n');
-  return item;
+std::string_view FileChannels::File::TakeItem() {
+  std::string_view rest = Rest();
+  Item item = FirstItem(rest);
+  for (bool more = true; more && item.size == rest.size();) {
+    more = ReadMore();
+    rest = Rest();
+    item = FirstItem(rest);
+  }
+  if (rest.empty()) throw Failure(ErrorNumber::kPastEndOfFile);
+  taken += item.size;
+  return item.text;
 }
 
 void FileChannels::OpenOutput(int channel, const std::string& path) {
@@ -156,7 +150,7 @@ void FileChannels::Flush(int channel) {
   if (!FileOn(channel, Use::kOutput).Flush()) throw Failure(ErrorNumber::kWriteFailed);
 }
 
-std::string FileChannels::ReadText(int channel) {
+std::string_view FileChannels::ReadText(int channel) {
   File& file = FileOn(channel, Use::kInput);
   try {
     return file.TakeItem();

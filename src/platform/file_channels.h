@@ -5,32 +5,22 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
-#include <variant>
 
 #include "platform/kept_copies.h"
 #include "platform/storage.h"
 
 namespace quilla {
 
-/// One item to be written: a number, or a text that must outlive the item.
-class FileItem {
- public:
-  static FileItem Text(std::string_view text) { return FileItem(text); }
-  static FileItem Number(std::int64_t number) { return FileItem(number); }
-  /// Adds the item to a line in the form that it has in a file.
-  void AppendTo(std::string& line) const;
+/// What ends an item in a file: another one in the same line, or the line.
+inline constexpr std::string_view kNextItem = ",";
+inline constexpr std::string_view kLineEnd = "\r\n";
 
- private:
-  explicit FileItem(std::variant<std::string_view, std::int64_t> value) : value_(value) {}
-  std::variant<std::string_view, std::int64_t> value_;
-};
-
-/// Adds items as one line of a file: commas between them, CR LF behind.
-void AppendLine(std::string& text, std::initializer_list<FileItem> items);
+/// Adds an item to the text of a file, and what ends it.
+void AppendText(std::string& file, std::string_view text, std::string_view end = kLineEnd);
+void AppendNumber(std::string& file, std::int64_t number);
 
 class FileChannels {
  public:
@@ -57,9 +47,9 @@ class FileChannels {
   void Write(int channel, std::string_view text);
 
   /// Reads the next item as it stands, without its quotes. A line ends at CR LF, CR or LF; a
-  /// quote that is never closed takes the rest of the file. Fails with `kPastEndOfFile`,
-  /// `kReadFailed` or `kBadChannel`.
-  std::string ReadText(int channel);
+  /// quote that is never closed takes the rest of the file. It holds until the next is read. Fails
+  /// with `kPastEndOfFile`, `kReadFailed` or `kBadChannel`.
+  std::string_view ReadText(int channel);
   /// Reads the next item as a decimal number. Fails as ReadText does, with `kNotANumber`, and
   /// with `kOverflow` for a number that 16 or 32 bits do not hold.
   std::int16_t ReadNumber16(int channel);
@@ -74,23 +64,16 @@ class FileChannels {
     std::string path;
     Use use;
     bool flushed = false;   // all that was written is on the disk
-    std::string read = {};  // the block that was read last
+    std::string read = {};  // what was read last, as much of it as is not taken at least
     std::size_t taken = 0;  // how much of it has been taken
 
     bool Flush();
+    /// What has been read and not been taken.
+    std::string_view Rest() const { return {read.data() + taken, read.size() - taken}; }
+    /// Reads at least as much again behind the rest. Whether there was more.
+    bool ReadMore();
     /// Takes the next item with its quotes and its delimiter, and gives what it holds.
-    std::string TakeItem();
-    void ReadBlock();
-    bool IsInBlock() const { return taken < read.size(); }
-    bool AtEnd();
-    /// Takes the next character if it is this one.
-    bool TakeIf(char c);
-    /// Takes the characters before the one that `find` finds, or all up to the end of the block.
-    template <typename Find>
-    std::string_view TakeFromBlock(const Find& find);
-    /// The same, or all up to the end of the file.
-    template <typename Find>
-    std::string TakeUntil(const Find& find);
+    std::string_view TakeItem();
   };
 
   /// The file on a channel that is open for this use. Fails with `kBadChannel`.

@@ -25,7 +25,7 @@ std::vector<std::string> ItemsOf(FileChannels& channels, std::string_view bytes)
   channels.OpenInput(kChannel, FileOf(bytes));
   std::vector<std::string> items;
   const auto end = FailureOf([&] {
-    while (true) items.push_back(channels.ReadText(kChannel));
+    while (true) items.emplace_back(channels.ReadText(kChannel));
   });
   Require(end == ErrorNumber::kPastEndOfFile);
   channels.Close(kChannel);
@@ -54,7 +54,7 @@ void Items(std::string_view input) {
   const std::vector<std::string> items = ItemsOf(channels, input);
   std::string text;
   for (const std::string& item : items) {
-    AppendLine(text, {FileItem::Text(item)});
+    AppendText(text, item);
     FailureOf([&] { Require(std::to_string(DecimalValue(item)).size() <= item.size()); });
   }
   Require(HasQuote(items) || ItemsOf(channels, text) == items);

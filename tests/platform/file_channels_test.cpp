@@ -28,7 +28,7 @@ class FileChannelsTest : public testing::Test {
     Write(content);
     channels_.OpenInput(kChannel, "file");
     std::vector<std::string> items;
-    while (FailureOf([&] { items.push_back(channels_.ReadText(kChannel)); }) !=
+    while (FailureOf([&] { items.emplace_back(channels_.ReadText(kChannel)); }) !=
            ErrorNumber::kPastEndOfFile) {
     }
     channels_.Close(kChannel);

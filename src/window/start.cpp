@@ -16,26 +16,22 @@ constexpr int kUntilPaintedMs = 100;
 
 }  // namespace
 
-// The time of the splash runs while its fonts are loaded and the panel is made; but it does not go
-// before it has been painted.
+// The time of the splash runs while its fonts are loaded and the panel is made, which is done while
+// the window system shows the splash; but it does not go before it has been painted.
 void Start(Quilla& quilla, QtOutside& outside) {
   QtClock& clock = outside.clock();
   clock.Hold();
   quilla.Start();
   Form& splash = *quilla.Forms().front();
   auto* const window = qobject_cast<SplashWindow*>(outside.event_loop().WindowOf(splash));
-  QTimer::singleShot(kLongestWaitMs, window, [&clock] { clock.LetGo(); });
-  const auto make_panel = [&quilla, &outside] {
+  const auto let_go = [&clock] { clock.LetGo(); };
+  QObject::connect(window, &SplashWindow::Painted, window, let_go);
+  QTimer::singleShot(kLongestWaitMs, window, let_go);
+  if (window->is_painted()) let_go();  // it may have been painted while it was shown
+  outside.gate().Enter([&quilla, &outside] {
     quilla.MakePanel();
     outside.event_loop().MadeWindowOf(quilla.panel()->form());
-  };
-  const auto painted = [make_panel, &outside, &clock] {
-    outside.gate().Enter(make_panel);
-    clock.LetGo();
-  };
-  // It may have been painted while it was shown.
-  if (window->is_painted()) QTimer::singleShot(0, window, painted);
-  QObject::connect(window, &SplashWindow::Painted, window, painted, Qt::QueuedConnection);
+  });
   const auto finish = [&outside, &splash] {
     outside.event_loop().DiscardWindow(splash);
     QApplication::setWindowIcon(ProgramIcon());

@@ -1,8 +1,8 @@
 #include "window/grid_view.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -35,6 +35,13 @@ int TwipsOf(const Grid& grid, int column) {
   return grid.ColWidth(column) >= 0 ? grid.ColWidth(column) : kUsualTwips;
 }
 
+/// A font that has its family from another one and all else from where it is used.
+QFont InFamilyOf(const QFont& other) {
+  QFont font;
+  font.setFamily(other.family());
+  return font;
+}
+
 RowRange Between(int one, int other) { return {std::min(one, other), std::max(one, other)}; }
 
 }  // namespace
@@ -42,10 +49,9 @@ RowRange Between(int one, int other) { return {std::min(one, other), std::max(on
 GridView::GridView(Gate& gate, Grid& grid, QWidget* parent)
     : QTableView(parent), gate_(gate), grid_(grid), model_(new GridModel(grid, this)) {
   setItemDelegate(new CellDelegate(grid, this));
-  QFont letters;
-  letters.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
-  setFont(letters);
+  setFont(InFamilyOf(QFontDatabase::systemFont(QFontDatabase::FixedFont)));
   setVerticalHeader(new Gutter(this));
+  verticalHeader()->setFont(InFamilyOf(QApplication::font()));
   SetUpHeading();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setMinimumSectionSize(1);
@@ -77,9 +83,9 @@ void GridView::SetUpHeading() {
   heading.setVisible(grid_.FixedRows() > 0);
   heading.setHighlightSections(false);
   heading.setSectionsClickable(true);
-  QFont font = heading.font();
-  font.setBold(true);
-  heading.setFont(font);
+  QFont letters = InFamilyOf(QApplication::font());
+  letters.setBold(true);
+  heading.setFont(letters);
   connect(&heading, &QHeaderView::sectionClicked, this, [this](int column) {
     gate_.Enter([&] {
       grid_.PressCell(0, column);
@@ -288,7 +294,7 @@ void GridView::timerEvent(QTimerEvent* event) {
     QTableView::timerEvent(event);
     return;
   }
-  if (!QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+  if (!QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
     EndDrag();
     return;
   }

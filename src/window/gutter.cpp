@@ -1,5 +1,6 @@
 #include "window/gutter.h"
 
+#include <QFontMetrics>
 #include <QPainter>
 #include <algorithm>
 
@@ -22,7 +23,9 @@ Gutter::Gutter(QWidget* parent) : QHeaderView(Qt::Vertical, parent) {
 
 QSize Gutter::sizeHint() const {
   const auto digits = std::max<qsizetype>(QString::number(count() - 1).size(), kFewestGutterDigits);
-  return {static_cast<int>(digits) * fontMetrics().horizontalAdvance(u'0') + 2 * kCellMargin, 0};
+  return {static_cast<int>(digits) * QFontMetrics(Letters(true)).horizontalAdvance(u'0') +
+              2 * kCellMargin,
+          0};
 }
 
 // Qt's own header goes over all rows that it is told of, in sight or not.
@@ -44,12 +47,16 @@ void Gutter::RepaintRows(int first, int last) {
   viewport()->update(0, start, viewport()->width(), end - start);
 }
 
+QFont Gutter::Letters(bool bold) const {
+  QFont letters = font();
+  letters.setBold(bold);
+  return letters;
+}
+
 void Gutter::paintSection(QPainter* painter, const QRect& area, int row) const {
   const bool has_cursor = static_cast<const GridModel*>(model())->cursor().row() == row;
-  QFont letters = font();
-  letters.setBold(has_cursor);
   painter->fillRect(area, palette().color(QPalette::Window));
-  painter->setFont(letters);
+  painter->setFont(Letters(has_cursor));
   painter->setPen(has_cursor ? palette().color(QPalette::WindowText) : QuietText(palette()));
   painter->drawText(area.adjusted(0, 0, -kCellMargin, 0), Qt::AlignRight | Qt::AlignVCenter,
                     QString::number(row));

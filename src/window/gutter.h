@@ -2,6 +2,7 @@
 #ifndef QUILLA_WINDOW_GUTTER_H_
 #define QUILLA_WINDOW_GUTTER_H_
 
+#include <QFont>
 #include <QHeaderView>
 
 namespace quilla {
@@ -19,6 +20,8 @@ class Gutter : public QHeaderView {
   void paintSection(QPainter* painter, const QRect& area, int row) const override;
 
  private:
+  /// The font of the numbers, bold for that of the cursor's row.
+  QFont Letters(bool bold) const;
   /// Repaints those of the rows that are on view.
   void RepaintRows(int first, int last);
 };

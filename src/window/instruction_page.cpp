@@ -20,7 +20,6 @@ namespace {
 
 constexpr int kFamilyGap = 10;
 constexpr int kKeyGap = 2;
-constexpr double kHeadingScale = 0.9;
 constexpr int kMostColumns = 4;
 // A longer pause ends the typing of a name.
 constexpr int kLongestNamePauseMs = 1000;
@@ -75,9 +74,6 @@ QLayout* InstructionPage::MakeFamilies() {
   int column = 0;
   for (const Family& family : kFamilies) {
     auto* const heading = new QLabel(family.heading, this);
-    QFont font = heading->font();
-    font.setPointSizeF(font.pointSizeF() * kHeadingScale);
-    heading->setFont(font);
     const int first_column = column;
     for (const std::string_view names : family.columns) {
       if (names.empty()) break;

@@ -22,7 +22,7 @@ constexpr double kPinLength = 0.8;
 constexpr double kPinWidth = 0.4;
 constexpr double kCorner = 0.35;
 constexpr double kNotchRadius = 0.7;
-constexpr double kNameHeight = 2.4;
+constexpr double kNameScale = 2.8;
 constexpr int kPinsOnASide = 20;
 
 const QColor kBoard(0x16, 0x3a, 0x33);
@@ -61,6 +61,19 @@ void DrawChip(QPainter& painter, const QRectF& chip, double unit) {
       180 * 16);
 }
 
+// In the letters of the first label, grown: another size would be another font to load.
+void DrawName(QPainter& painter, const QRectF& chip) {
+  QFont font = painter.font();
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(kPrint);
+  painter.translate(chip.center());
+  painter.scale(kNameScale, kNameScale);
+  const QSizeF size = chip.size() / kNameScale;
+  painter.drawText(QRectF({-size.width() / 2, -size.height() / 2}, size), Qt::AlignCenter,
+                   "Quilla");
+}
+
 }  // namespace
 
 SplashWindow::SplashWindow(Gate& gate, EventLoop& event_loop, Form& form)
@@ -92,12 +105,7 @@ void SplashWindow::paintEvent(QPaintEvent* /*event*/) {
   DrawTracks(painter, chip, unit, width());
   painter.fillRect(QRectF(0, height() - unit * kTextHeight, width(), unit * kTextHeight), kPlastic);
   DrawChip(painter, chip, unit);
-  QFont font = painter.font();
-  font.setPixelSize(qRound(unit * kNameHeight));
-  font.setBold(true);
-  painter.setFont(font);
-  painter.setPen(kPrint);
-  painter.drawText(chip, Qt::AlignCenter, "Quilla");
+  DrawName(painter, chip);
   is_painted_ = true;
   Q_EMIT Painted();
 }

@@ -66,12 +66,13 @@ class FileChannels {
     bool flushed = false;   // all that was written is on the disk
     std::string read = {};  // what was read last, as much of it as is not taken at least
     std::size_t taken = 0;  // how much of it has been taken
+    bool at_end = false;    // there is no more to be read
 
     bool Flush();
     /// What has been read and not been taken.
     std::string_view Rest() const { return {read.data() + taken, read.size() - taken}; }
-    /// Reads at least as much again behind the rest. Whether there was more.
-    bool ReadMore();
+    /// Reads at least as much again behind the rest.
+    void ReadMore();
     /// Takes the next item with its quotes and its delimiter, and gives what it holds.
     std::string_view TakeItem();
   };

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QStyle>
 #include <QToolTip>
 #include <array>
 #include <optional>
@@ -90,12 +89,6 @@ QRect DrawMark(QPainter& painter, const Look& look, QRect area) {
   return area;
 }
 
-QColor LineColor(const QStyleOptionViewItem& option) {
-  const int color =
-      option.widget->style()->styleHint(QStyle::SH_Table_GridLineColor, &option, option.widget);
-  return QColor::fromRgba(static_cast<QRgb>(color));
-}
-
 /// How far below the top of its letters the middle of a font's line lies.
 int Middle(const QFontMetrics& metrics) { return metrics.ascent() - metrics.height() / 2; }
 
@@ -120,7 +113,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& cell,
                          const QModelIndex& index) const {
   if (index.row() >= grid_.Rows()) return;
   const QRect& whole = cell.rect;
-  const QColor line = LineColor(cell);
+  const QColor line = LineBetweenCells(cell.palette);
   painter->fillRect(whole.right(), whole.top(), 1, whole.height(), line);
   painter->fillRect(whole.left(), whole.bottom(), whole.width(), 1, line);
   QStyleOptionViewItem option = cell;

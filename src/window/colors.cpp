@@ -15,6 +15,7 @@ constexpr int kMostSteps = 12;
 
 constexpr double kCursorRowTint = 0.16;
 constexpr double kQuietTint = 0.7;
+constexpr double kLineTint = 0.22;
 constexpr double kDarkestLight = 0.18;  // the luminance below which a palette is a dark one
 
 struct Shades {
@@ -75,6 +76,10 @@ QColor SelectedGround(const QPalette& palette) {
 
 QColor CursorRowGround(const QPalette& palette) {
   return Mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), kCursorRowTint);
+}
+
+QColor LineBetweenCells(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), kLineTint);
 }
 
 QColor QuietText(const QPalette& palette) {

@@ -22,6 +22,9 @@ QColor GroundOf(CellColor color, const QPalette& palette);
 QColor SelectedGround(const QPalette& palette);
 QColor CursorRowGround(const QPalette& palette);
 
+/// The lines between cells: seen on light and dark grounds, and behind any text.
+QColor LineBetweenCells(const QPalette& palette);
+
 /// Text that stands back behind other text, and still reads well.
 QColor QuietText(const QPalette& palette);
 

@@ -10,6 +10,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 #include <QWindow>
+#include <cstdlib>
 #include <tuple>
 
 #include "platform/button.h"
@@ -267,6 +268,8 @@ TEST(Colors, ReadWellInBothPalettes) {
       EXPECT_EQ(TextOn(ground), text) << "no bar that glares";
       EXPECT_EQ(ReadableOn(ground, text), text) << ground.name().toStdString();
     }
+    const int ground = palette.color(QPalette::Base).lightness();
+    EXPECT_GT(std::abs(LineBetweenCells(palette).lightness() - ground), 40) << "lines are seen";
   }
 }
 

@@ -20,9 +20,9 @@ constexpr double kDarkestLight = 0.18;  // the luminance below which a palette i
 
 struct Shades {
   CellColor color;
-  QRgb light;
-  QRgb dark;
-  const char* meaning;
+  QRgb light = 0;
+  QRgb dark = 0;
+  const char* meaning = "";
 };
 
 constexpr std::array kShades = {

@@ -5,12 +5,11 @@
 #define QUILLA_WINDOW_SESSION_END_H_
 
 #include <QObject>
+#include <QSessionManager>
 
 #include "panel/quilla.h"
 #include "system/end_requests.h"
 #include "window/qt_outside.h"
-
-class QSessionManager;
 
 namespace quilla {
 

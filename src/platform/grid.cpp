@@ -91,11 +91,10 @@ void Grid::FailOutside() { throw Failure(ErrorNumber::kOutsideTable); }
 
 void Grid::SetTextMatrix(int row, int column, std::string_view text) {
   std::string& cell = CellAt(row, column).text;
+  if (cell == text) return;
   if (cell.empty()) {
-    if (text.empty()) return;
     cell.append(text);  // quicker than to assign
   } else {
-    if (cell == text) return;
     cell.assign(text);
   }
   TextChanged(row);

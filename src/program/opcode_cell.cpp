@@ -32,6 +32,7 @@ std::string_view ByteAt(std::string_view cell, int index) {
   return Part(cell, static_cast<std::size_t>(index) * kByteStep);
 }
 
+// A cell of the program begins with two digits; what else a file may hold is for HexValue.
 int OpcodeOf(std::string_view cell) {
   if (cell.size() >= kDigits) {
     const int high = DigitValue(cell[0]);

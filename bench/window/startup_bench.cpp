@@ -16,8 +16,9 @@ namespace {
 
 constexpr int kStarts = 40;
 constexpr double kSplashMs = 20;
-constexpr double kMostTime = 1.5;    // of an empty window, the time of the splash aside
-constexpr double kMostMemory = 1.4;  // of an empty window of the same size
+// Of an empty window of the same size, the time of the splash aside:
+constexpr double kMostTime = 1.5;
+constexpr double kMostMemory = 1.4;
 
 struct Window {
   const char* name;
@@ -40,9 +41,11 @@ double ProcessorMs() {
   return in_ms(usage.ru_utime) + in_ms(usage.ru_stime);
 }
 
-// The counters are least times in milliseconds, by the clock and of the processor.
+// The counters are least times in milliseconds, by the clock and of the processor; and how many
+// times the panel takes those of empty windows, the small one that Qt makes and one of its own
+// size.
 void BM_StartUp(benchmark::State& state) {
-  constexpr std::array kWindows = {kEmpty, kText, kSplash, kPanel};
+  constexpr std::array kWindows = {kEmpty, kLarge, kText, kSplash, kPanel};
   std::array<double, kWindows.size()> wall{};
   wall.fill(std::numeric_limits<double>::infinity());
   std::array<double, kWindows.size()> processor = wall;
@@ -61,9 +64,10 @@ void BM_StartUp(benchmark::State& state) {
     state.counters[kWindows[i].name] = wall[i];
     state.counters[std::string(kWindows[i].name) + "_cpu"] = processor[i];
   }
-  const double times = (wall.back() - kSplashMs) / wall.front();
-  state.counters["x_empty"] = times;
-  if (times > kMostTime) state.SetLabel("OVER THE LIMIT");
+  const double own = wall.back() - kSplashMs;
+  state.counters["x_empty"] = own / wall[0];
+  state.counters["x_large"] = own / wall[1];
+  if (own > kMostTime * wall[1]) state.SetLabel("OVER THE LIMIT");
 }
 BENCHMARK(BM_StartUp)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(kStarts);
 

@@ -5,7 +5,9 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <optional>
 #include <span>
 
@@ -105,17 +107,21 @@ void DrawText(QPainter& painter, const Look& look, QRect area, QFont font,
   painter.drawText(area, static_cast<int>(alignment) | Qt::TextSingleLine, text);
 }
 
+// Draws the lines below and to the right of a cell: Qt draws them across the whole view dot by dot,
+// which takes longer than the cells. They are as many whole dots thick wherever the cell's edges
+// lie between those of a screen with a scale of 1.5.
+void DrawLines(QPainter& painter, const QRectF& cell, const QColor& color) {
+  const double scale = painter.deviceTransform().m22();
+  const double thickness = std::max(1.0, std::floor(scale)) / scale;
+  painter.fillRect(QRectF(cell.right() - thickness, cell.top(), thickness, cell.height()), color);
+  painter.fillRect(QRectF(cell.left(), cell.bottom() - thickness, cell.width(), thickness), color);
+}
+
 }  // namespace
 
-// The lines of the grid are of the cells: Qt draws them across the whole view dot by dot, which
-// takes longer than the cells.
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& cell,
                          const QModelIndex& index) const {
   if (index.row() >= grid_.Rows()) return;
-  const QRect& whole = cell.rect;
-  const QColor line = LineBetweenCells(cell.palette);
-  painter->fillRect(whole.right(), whole.top(), 1, whole.height(), line);
-  painter->fillRect(whole.left(), whole.bottom(), whole.width(), 1, line);
   QStyleOptionViewItem option = cell;
   option.rect.adjust(0, 0, -1, -1);
   const bool selected = option.state.testFlag(QStyle::State_Selected);
@@ -124,17 +130,17 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& cell,
                            selected ? QPalette::HighlightedText : QPalette::Text);
   painter->save();
   if (look.back) {
-    painter->fillRect(option.rect, *look.back);
+    painter->fillRect(cell.rect, *look.back);
   } else {
     const bool has_cursor = CursorColumn(grid_, index.row()) >= 0;
-    painter->fillRect(option.rect, selected     ? SelectedGround(option.palette)
-                                   : has_cursor ? CursorRowGround(option.palette)
-                                                : option.palette.color(QPalette::Base));
+    painter->fillRect(cell.rect, selected     ? SelectedGround(option.palette)
+                                 : has_cursor ? CursorRowGround(option.palette)
+                                              : option.palette.color(QPalette::Base));
   }
   if (look.back && selected) {
     QColor tint = option.palette.color(QPalette::Highlight);
     tint.setAlphaF(kSelectedTint);
-    painter->fillRect(option.rect, tint);
+    painter->fillRect(cell.rect, tint);
   }
   QRect area = option.rect.adjusted(kCellMargin, 0, -kCellMargin, 0);
   if (!look.mark.empty()) area = DrawMark(*painter, look, area);
@@ -146,6 +152,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& cell,
     painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
   }
   painter->restore();
+  DrawLines(*painter, cell.rect, LineBetweenCells(option.palette));
 }
 
 QFont CellDelegate::FontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {

@@ -253,6 +253,24 @@ TEST_F(TableTest, ReadsLikeAListing) {
   EXPECT_NE(ground(1), ground(2)) << "the row of the cursor";
 }
 
+TEST_F(TableTest, LinesAreOneDotThickOnAScreenOfAnyScale) {
+  constexpr int kRows = 12;
+  const QWidget& view = *table().viewport();
+  table().verticalHeader()->setDefaultSectionSize(21);  // edges half a dot off at a scale of 1.5
+  const QRect last = table().visualRect(table().model()->index(kRows - 1, kCommentColumn));
+  for (const double scale : {1.0, 1.25, 1.5}) {
+    QImage picture(view.size() * scale, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    table().viewport()->render(&picture);
+    const QRgb line = LineBetweenCells(table().palette()).rgb();
+    const int x = static_cast<int>((last.right() - 20) * scale);
+    const int y = static_cast<int>(last.center().y() * scale);
+    int dots = 0;
+    for (int i = 0; i < y; ++i) dots += picture.pixel(x, i) == line ? 1 : 0;
+    EXPECT_EQ(dots, kRows - 1) << scale;
+  }
+}
+
 TEST(Colors, ReadWellInBothPalettes) {
   EXPECT_EQ(FromBlueGreenRed(0x0000FF), QColor(Qt::red));
   const QColor green(0, 0x80, 0);

@@ -12,6 +12,7 @@
 
 #include "window/cell_delegate.h"
 #include "window/gutter.h"
+#include "window/key_button.h"
 
 namespace quilla {
 namespace {
@@ -120,7 +121,7 @@ void GridView::SetProse(int column) {
 
 void GridView::FitRows() {
   const int letters = fontMetrics().height();
-  int height = std::max(letters + kRowPadding, least_row_height_);
+  int height = holds_keys_ ? KeyHeight(fontMetrics()) : letters + kRowPadding;
   if (rows_to_fill_ > 0) {
     const int filling = (viewport()->height() + rows_to_fill_ - 1) / rows_to_fill_;
     height = std::max(height, std::min(filling, qRound(letters * kHighestRow)));
@@ -131,8 +132,8 @@ void GridView::FitRows() {
   Q_EMIT RowsFitted(height);
 }
 
-void GridView::SetLeastRowHeight(int height) {
-  least_row_height_ = height;
+void GridView::HoldKeysInRows() {
+  holds_keys_ = true;
   FitRows();
 }
 

@@ -33,8 +33,8 @@ class GridView : public QTableView {
   void SetProse(int column);
   /// Where the view has room, rows are higher, up to a measure, so that this many fill it.
   void set_rows_to_fill(int rows) { rows_to_fill_ = rows; }
-  /// Rows are no lower than this, whatever their letters.
-  void SetLeastRowHeight(int height);
+  /// Rows are as high as the keys that stand beside them.
+  void HoldKeysInRows();
   /// Says what the colours of the cells mean, to those who cannot see them.
   void set_meaning(std::function<QString(CellColor)> meaning) {
     model_->set_meaning(std::move(meaning));
@@ -100,8 +100,8 @@ class GridView : public QTableView {
   QPoint pointer_;
   QBasicTimer scroll_timer_;
   int rows_to_fill_ = 0;
-  int least_row_height_ = 0;
-  QSize extent_;  // in digits and rows
+  bool holds_keys_ = false;  // in its rows
+  QSize extent_;             // in digits and rows
   Qt::Orientations fixed_;
   int address_digits_ = 0;
   QString typed_;

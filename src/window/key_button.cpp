@@ -9,11 +9,17 @@ namespace {
 
 constexpr int kSidePadding = 7;
 constexpr int kTopPadding = 4;
+// What a finger or an unsteady hand still meets.
+constexpr int kLeastKeyHeight = 24;
 constexpr int kFewestDigits = 2;
 constexpr double kKeyFocusWidth = 2;
 constexpr double kFocusRadius = 3;
 
 }  // namespace
+
+int KeyHeight(const QFontMetrics& letters) {
+  return std::max(letters.height() + 2 * kTopPadding, kLeastKeyHeight);
+}
 
 void PanelButton::paintEvent(QPaintEvent* event) {
   QPushButton::paintEvent(event);
@@ -35,7 +41,7 @@ QSize KeyButton::sizeHint() const {
   const QFontMetrics metrics = fontMetrics();
   const int width =
       std::max(metrics.horizontalAdvance(hinted_), kFewestDigits * metrics.horizontalAdvance(u'0'));
-  hint_ = {width + 2 * kSidePadding, std::max(metrics.height() + 2 * kTopPadding, kLeastKeyHeight)};
+  hint_ = {width + 2 * kSidePadding, KeyHeight(metrics)};
   return hint_;
 }
 

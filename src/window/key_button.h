@@ -3,12 +3,13 @@
 #ifndef QUILLA_WINDOW_KEY_BUTTON_H_
 #define QUILLA_WINDOW_KEY_BUTTON_H_
 
+#include <QFontMetrics>
 #include <QPushButton>
 
 namespace quilla {
 
-/// A key is no lower than this, in pixels: what a finger or an unsteady hand still meets.
-inline constexpr int kLeastKeyHeight = 24;
+/// How high a key is whose caption is in these letters, in pixels.
+int KeyHeight(const QFontMetrics& letters);
 
 class PanelButton : public QPushButton {
   Q_OBJECT

@@ -152,7 +152,7 @@ QLayout* WatchWindow::MakeLines() {
     for (QWidget* key : in_rows) key->setFixedHeight(height);
   };
   connect(table, &GridView::RowsFitted, this, align);
-  table->SetLeastRowHeight(kLeastKeyHeight);
+  table->HoldKeysInRows();
   align(table->verticalHeader()->defaultSectionSize());
   auto* const row = new QHBoxLayout;
   row->setSpacing(0);

@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QToolTip>
@@ -32,17 +33,28 @@ class LayoutTest : public PanelTest, public testing::WithParamInterface<int> {
   void TearDown() override { QApplication::setFont(font_before_); }
 
   void ExpectAllWhole(const std::string& where) {
-    QCoreApplication::processEvents();
+    ExpectAllWhole(window(), where);
     EXPECT_EQ(window().size(), kSmallScreen) << where;
-    for (const QWidget* widget : window().findChildren<QWidget*>()) {
+  }
+  // Texts stand where there is room for them, none over another.
+  static void ExpectAllWhole(const QWidget& area, const std::string& where) {
+    QCoreApplication::processEvents();
+    std::vector<const QWidget*> seen;
+    for (const QWidget* widget : area.findChildren<QWidget*>()) {
       const bool has_text = qobject_cast<const QLabel*>(widget) != nullptr ||
                             qobject_cast<const QAbstractButton*>(widget) != nullptr;
       if (!has_text || !widget->isVisible() || IsOutOfSight(*widget)) continue;
       const std::string name = where + ": " + widget->objectName().toStdString();
       EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << name;
       EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << name;
-      const QRect place(widget->mapTo(&window(), QPoint()), widget->size());
-      EXPECT_TRUE(window().rect().contains(place)) << name;
+      const QRect place(widget->mapTo(&area, QPoint()), widget->size());
+      EXPECT_TRUE(area.rect().contains(place)) << name;
+      for (const QWidget* other : seen) {
+        EXPECT_FALSE(other->parent() == widget->parent() &&
+                     other->geometry().intersects(widget->geometry()))
+            << name << " lies over " << other->objectName().toStdString();
+      }
+      seen.push_back(widget);
     }
   }
 
@@ -65,6 +77,7 @@ TEST_P(LayoutTest, EveryBoxIsWholeAndNothingJumps) {
     EXPECT_EQ(Find("Table1").geometry(), table) << box->name();
     box->Hide();
   }
+  ExpectAllWhole(*OpenSimulator().findChild<QScrollArea*>()->widget(), "simulator");
 }
 
 TEST_P(LayoutTest, ColumnsHoldTheirUsualTexts) {

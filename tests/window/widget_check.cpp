@@ -81,6 +81,7 @@ void CheckWidget(Check& check, const Control& control, const QWidget& widget) {
 
 void CheckEntry(Check& check, const MenuEntry& entry, const QAction& action) {
   check.Same("visible", action.isVisible(), entry.visible());
+  check.Same("kind", action.isSeparator(), entry.is_separator());
   if (entry.visible()) check.Same("enabled", action.isEnabled(), entry.enabled());
   if (!entry.is_separator()) check.Same("caption", action.text(), ToQt(entry.caption()));
   if (entry.checkable()) check.Same("checked", action.isChecked(), entry.checked());

@@ -18,6 +18,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QWindow>
+#include <algorithm>
 
 namespace quilla {
 namespace {
@@ -25,6 +26,7 @@ namespace {
 constexpr const char* kGuide = "qrc:/docs/guide.md";
 constexpr const char* kDemonstration = "demo";
 constexpr int kGuideMargin = 16;
+constexpr int kNarrowestPicture = 200;
 constexpr int kWidestPicture = 680;
 constexpr int kSmallestZoom = -4;
 constexpr int kLargestZoom = 20;
@@ -92,6 +94,7 @@ void AddShortcut(GuideWindow* window, const QKeySequence& keys, const std::funct
 GuidePage::GuidePage(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);
   document()->setDocumentMargin(kGuideMargin);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the room for pictures stays what it is
   auto* const style = new LinkFocusStyle;
   style->setParent(this);
   setStyle(style);
@@ -146,9 +149,20 @@ QVariant GuidePage::loadResource(int type, const QUrl& url) {
   if (type == QTextDocument::HtmlResource) return HtmlOf(u':' + url.path());
   QVariant resource = QTextBrowser::loadResource(type, url);
   if (type != QTextDocument::ImageResource) return resource;
-  const QImage picture = QImage::fromData(resource.toByteArray());
-  if (picture.width() <= kWidestPicture) return picture;
-  return picture.scaledToWidth(kWidestPicture, Qt::SmoothTransformation);
+  return Fitting(QImage::fromData(resource.toByteArray()));
+}
+
+// A picture of few colours would be made smaller with no others than these, in dots.
+QImage GuidePage::Fitting(const QImage& picture) const {
+  const int room =
+      std::clamp(viewport()->width() - 2 * kGuideMargin, kNarrowestPicture, kWidestPicture);
+  if (picture.width() <= room) return picture;
+  const double scale = devicePixelRatioF();
+  const int width = std::min(picture.width(), qRound(room * scale));
+  QImage fitting = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                       .scaledToWidth(width, Qt::SmoothTransformation);
+  fitting.setDevicePixelRatio(static_cast<double>(width) / room);
+  return fitting;
 }
 
 GuideWindow::GuideWindow() {

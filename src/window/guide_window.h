@@ -32,6 +32,8 @@ class GuidePage : public QTextBrowser {
 
  private:
   void Follow(const QUrl& link);
+  /// The picture as large as there is room for it, in the dots of the screen.
+  QImage Fitting(const QImage& picture) const;
 
   int zoom_ = 0;
 };

@@ -13,6 +13,16 @@ constexpr int kMargin = 12;
 /// How much of a window's height stays free under the bar: the keys of the panel.
 constexpr double kFreeBelow = 0.25;
 
+/// Where the part of a window ends that a demonstration can do without, on the screen: the panel's
+/// keys lie below its table.
+int EndOfFreePart(const QWidget& window) {
+  if (const auto* const table = window.findChild<QWidget*>("Table1")) {
+    return table->mapToGlobal(QPoint(0, table->height())).y();
+  }
+  const QRect place = window.frameGeometry();
+  return place.bottom() - static_cast<int>(place.height() * kFreeBelow);
+}
+
 }  // namespace
 
 // The bar never takes the focus: the keys go to the program, as they do without it.
@@ -79,8 +89,7 @@ void CaptionBar::StandOver(QWidget& window) {
   const QRect place = window.frameGeometry();
   const bool fits_below = place.bottom() + height() <= screen.bottom();
   const int left = fits_below ? place.left() : place.right() - width() - 2 * kMargin;
-  const int covered = height() + static_cast<int>(place.height() * kFreeBelow);
-  const int top = fits_below ? place.bottom() : place.bottom() - covered;
+  const int top = fits_below ? place.bottom() : EndOfFreePart(window) - height();
   move(qBound(screen.left(), left, screen.right() - width()), qMax(screen.top(), top));
   show();
 }

@@ -80,6 +80,7 @@ Look LookOf(CellColor back, CellColor fore, const QPalette& palette, QPalette::C
 
 // Draws the mark at the right end of `area` and gives the room that is left for the text.
 QRect DrawMark(QPainter& painter, const Look& look, QRect area) {
+  painter.save();
   const double side = area.height() * 0.36;
   const QPointF corner(area.right() - side, area.center().y() - side / 2 + 0.5);
   QPolygonF line;
@@ -87,6 +88,7 @@ QRect DrawMark(QPainter& painter, const Look& look, QRect area) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(look.fore, side * 0.22, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPolyline(line);
+  painter.restore();
   area.setRight(static_cast<int>(corner.x()) - kCellMargin);
   return area;
 }
@@ -107,14 +109,41 @@ void DrawText(QPainter& painter, const Look& look, QRect area, QFont font,
   painter.drawText(area, static_cast<int>(alignment) | Qt::TextSingleLine, text);
 }
 
-// Draws the lines below and to the right of a cell: Qt draws them across the whole view dot by dot,
-// which takes longer than the cells. They are as many whole dots thick wherever the cell's edges
-// lie between those of a screen with a scale of 1.5.
-void DrawLines(QPainter& painter, const QRectF& cell, const QColor& color) {
+// On a screen with a scale of 1.5 the edges of cells fall between its dots. What is drawn along
+// them begins and ends at dots, so that it is as thick in one place as in another.
+
+/// The area from the dots next to its edges.
+QRectF OnDots(const QPainter& painter, const QRectF& area) {
+  const QTransform to_dots = painter.deviceTransform();
+  QRectF dots = to_dots.mapRect(area);
+  dots.setCoords(qRound(dots.left()), qRound(dots.top()), qRound(dots.right()),
+                 qRound(dots.bottom()));
+  return to_dots.inverted().mapRect(dots);
+}
+
+/// A thickness of as many whole dots as it has room for, one at least.
+double InWholeDots(const QPainter& painter, double thickness) {
   const double scale = painter.deviceTransform().m22();
-  const double thickness = std::max(1.0, std::floor(scale)) / scale;
-  painter.fillRect(QRectF(cell.right() - thickness, cell.top(), thickness, cell.height()), color);
-  painter.fillRect(QRectF(cell.left(), cell.bottom() - thickness, cell.width(), thickness), color);
+  return std::max(1.0, std::floor(thickness * scale)) / scale;
+}
+
+/// Draws the lines below and to the right of a cell, and gives what is left of it. Qt would draw
+/// the lines across the whole view dot by dot, which takes longer than the cells.
+QRectF DrawLines(QPainter& painter, const QRect& cell, const QColor& color) {
+  const QRectF area = OnDots(painter, cell);
+  const double line = InWholeDots(painter, 1);
+  painter.fillRect(QRectF(area.right() - line, area.top(), line, area.height()), color);
+  painter.fillRect(QRectF(area.left(), area.bottom() - line, area.width(), line), color);
+  return area.adjusted(0, 0, -line, -line);
+}
+
+/// Draws the ring of the focus along the inner edge of an area.
+void DrawRing(QPainter& painter, const QRectF& area, const QColor& color) {
+  const double ring = InWholeDots(painter, kFocusWidth);
+  painter.fillRect(QRectF(area.left(), area.top(), area.width(), ring), color);
+  painter.fillRect(QRectF(area.left(), area.bottom() - ring, area.width(), ring), color);
+  painter.fillRect(QRectF(area.left(), area.top(), ring, area.height()), color);
+  painter.fillRect(QRectF(area.right() - ring, area.top(), ring, area.height()), color);
 }
 
 }  // namespace
@@ -145,14 +174,12 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& cell,
   QRect area = option.rect.adjusted(kCellMargin, 0, -kCellMargin, 0);
   if (!look.mark.empty()) area = DrawMark(*painter, look, area);
   DrawText(*painter, look, area, FontOf(option, index), option.fontMetrics, index);
+  painter->restore();
+  const QRectF inside = DrawLines(*painter, cell.rect, LineBetweenCells(option.palette));
   if (option.state.testFlag(QStyle::State_HasFocus)) {
     const bool has_ground = look.back || selected;
-    painter->setPen(
-        QPen(has_ground ? look.fore : option.palette.color(QPalette::Highlight), kFocusWidth));
-    painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+    DrawRing(*painter, inside, has_ground ? look.fore : option.palette.color(QPalette::Highlight));
   }
-  painter->restore();
-  DrawLines(*painter, cell.rect, LineBetweenCells(option.palette));
 }
 
 QFont CellDelegate::FontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {

@@ -158,7 +158,7 @@ QLayout* WatchWindow::MakeLines() {
   row->setSpacing(0);
   row->addWidget(table, 0, Qt::AlignTop);
   row->addLayout(keys);
-  row->addStretch();
+  row->addStretch(1);
   auto* const column = new QVBoxLayout;
   column->setSpacing(kLineGap);
   column->addLayout(row);

@@ -2,12 +2,16 @@
 
 #include <QApplication>
 #include <QLayout>
+#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <QWheelEvent>
 #include <algorithm>
 
 #include "window/grid_view.h"
 #include "window/key_button.h"
+#include "window/screen_room.h"
 
 namespace quilla {
 namespace {
@@ -54,6 +58,19 @@ bool Fits(const QWidget* window) {
   return needed.boundedTo(window->size()) == needed;
 }
 
+// A window that scrolls grows where the screen has room, so that it need not.
+void GrowAround(QWidget& window) {
+  const auto* const area = window.findChild<QScrollArea*>({}, Qt::FindDirectChildrenOnly);
+  if (area == nullptr || window.isMaximized()) return;
+  const QSize needed = area->widget()->minimumSizeHint() +
+                       QSize(area->style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
+  window.resize(window.size().expandedTo(needed).boundedTo(RoomOnScreen(window)));
+  const QRect screen = window.screen()->availableGeometry();
+  const QRect frame = window.frameGeometry();
+  window.move(window.pos() - QPoint(std::max(0, frame.right() - screen.right()),
+                                    std::max(0, frame.bottom() - screen.bottom())));
+}
+
 void ZoomTo(double factor) {
   factor = std::clamp(factor, kSmallest, kLargest);
   SetFont(GridView::staticMetaObject, factor);
@@ -67,6 +84,7 @@ void ZoomTo(double factor) {
     if (keys <= 1 || std::all_of(windows.begin(), windows.end(), Fits)) break;
   }
   SetConstraint(windows, QLayout::SetDefaultConstraint);
+  for (QWidget* window : windows) GrowAround(*window);
 }
 
 class Wheel final : public QObject {

@@ -93,20 +93,19 @@ QRect DrawMark(QPainter& painter, const Look& look, QRect area) {
   return area;
 }
 
-/// How far below the top of its letters the middle of a font's line lies.
-int Middle(const QFontMetrics& metrics) { return metrics.ascent() - metrics.height() / 2; }
-
 // Texts in all fonts stand on the line of `pitch`, the font of the table.
-void DrawText(QPainter& painter, const Look& look, QRect area, QFont font,
-              const QFontMetrics& pitch, const QModelIndex& index) {
+void DrawText(QPainter& painter, const Look& look, const QRectF& area, QFont font,
+              const QFontMetricsF& pitch, const QModelIndex& index) {
   font.setBold(look.bold);
-  area.translate(0, Middle(pitch) - Middle(QFontMetrics(font)));
+  const QFontMetricsF metrics(font);
+  const double line = area.top() + (area.height() - pitch.height()) / 2 + pitch.ascent();
+  const QRectF place(area.left(), line - metrics.ascent(), area.width(), metrics.height());
   painter.setFont(font);
   painter.setPen(look.fore);
   const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-  const QString text =
-      QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, area.width());
-  painter.drawText(area, static_cast<int>(alignment) | Qt::TextSingleLine, text);
+  const QString text = metrics.elidedText(index.data().toString(), Qt::ElideRight, area.width());
+  painter.drawText(
+      place, static_cast<int>(alignment & Qt::AlignHorizontal_Mask) | Qt::TextSingleLine, text);
 }
 
 // On a screen with a scale of 1.5 the edges of cells fall between its dots. What is drawn along
@@ -173,7 +172,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& cell,
   }
   QRect area = option.rect.adjusted(kCellMargin, 0, -kCellMargin, 0);
   if (!look.mark.empty()) area = DrawMark(*painter, look, area);
-  DrawText(*painter, look, area, FontOf(option, index), option.fontMetrics, index);
+  DrawText(*painter, look, area, FontOf(option, index), QFontMetricsF(option.font), index);
   painter->restore();
   const QRectF inside = DrawLines(*painter, cell.rect, LineBetweenCells(option.palette));
   if (option.state.testFlag(QStyle::State_HasFocus)) {

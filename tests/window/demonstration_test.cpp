@@ -78,6 +78,9 @@ TEST_F(DemonstrationTest, EveryOneEndsInTheWindowAsOnTheModels) {
   }
   QWidget* const panel = outside_.event_loop().WindowOf(quilla_.panel()->form());
   EXPECT_EQ(Bar().windowHandle()->transientParent(), panel->windowHandle());
+  const auto& keys = *panel->findChild<QWidget*>("InstructionBox");
+  const QRect place(keys.mapToGlobal(QPoint()), keys.size());
+  EXPECT_FALSE(Bar().geometry().intersects(place)) << "the keys are in sight";
   QTest::keyClick(panel, Qt::Key_Escape);
   EXPECT_FALSE(Bar().isVisible());
 }
